@@ -1,0 +1,61 @@
+#include "game/art/picture.h"
+
+#include "game/console/console.h"
+#include "game/console/cp437.h"
+
+std::string pictureRow(const Picture& picture, int row) {
+  return cp437::fromUtf8(picture.rows[row]);
+}
+
+int pictureColour(const Picture& picture, int column, int row, int colour) {
+  if (picture.colours == nullptr) return colour;
+  char key = picture.colours[row][column];
+  if (key == ' ') return -1;
+  for (int i = 0; i < picture.paletteSize; ++i) {
+    if (picture.palette[i].key == key) return picture.palette[i].colour;
+  }
+  return -1;
+}
+
+void drawPicture(const Picture& picture, int column, int row, int colour) {
+  for (int y = 0; y < picture.height; ++y) {
+    std::string codes = pictureRow(picture, y);
+    int x = 0;
+    while (x < picture.width) {
+      int runColour = pictureColour(picture, x, y, colour);
+      int end = x + 1;
+      while (end < picture.width && pictureColour(picture, end, y, colour) == runColour) ++end;
+      if (runColour >= 0) {
+        Console::putText(std::string_view(codes).substr(x, end - x), column + x, row + y,
+                         runColour);
+      }
+      x = end;
+    }
+  }
+}
+
+std::vector<std::string> pictureFaults(const Picture& picture) {
+  std::vector<std::string> faults;
+  for (int y = 0; y < picture.height; ++y) {
+    bool ok = true;
+    std::string codes = cp437::fromUtf8(picture.rows[y], &ok);
+    std::string where = "row " + std::to_string(y) + ": ";
+    if (!ok) faults.push_back(where + "a glyph outside code page 437");
+    if (static_cast<int>(codes.size()) != picture.width) {
+      faults.push_back(where + std::to_string(codes.size()) + " glyphs, not " +
+                       std::to_string(picture.width));
+    }
+    if (picture.colours == nullptr) continue;
+    std::string keys = picture.colours[y];
+    if (static_cast<int>(keys.size()) != picture.width) {
+      faults.push_back(where + std::to_string(keys.size()) + " colour keys, not " +
+                       std::to_string(picture.width));
+    }
+    for (std::size_t x = 0; x < keys.size(); ++x) {
+      if (keys[x] != ' ' && pictureColour(picture, static_cast<int>(x), y, 0) < 0) {
+        faults.push_back(where + "key '" + keys[x] + "' has no colour");
+      }
+    }
+  }
+  return faults;
+}

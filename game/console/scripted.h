@@ -1,0 +1,78 @@
+// The scripted console, for tests: a key script stands in for the player, a
+// virtual clock for the wall clock, and the screen model is read back.
+//
+// The script is a list of steps, taken in order whenever the game looks for
+// input and its queue is empty:
+//   keys     the player presses these keys; all of them reach the queue at
+//            once (one key is a plain press, several a burst)
+//   idle     the polling loops find no key for this many passes
+//   busy     keys pressed while the game is busy: they reach the queue the
+//            next time the game sleeps, so that a flush can drop them
+// When the game asks for input and the script is used up, the run ends: the
+// backend throws ScriptEnded, which unwinds the game back to the test. A
+// blocking read passes over idle steps.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "game/console/console.h"
+
+namespace scripted {
+
+struct ScriptEnded {};
+
+struct Step {
+  enum Kind { Keys, Idle, Busy } kind = Keys;
+  std::vector<KeyEvent> keys;
+  int passes = 0;
+};
+
+// Forgets the script, the queue and the clock, and blanks the screen model.
+void reset();
+
+void addKeys(std::vector<KeyEvent> keys);
+void addKey(KeyEvent key);
+void addIdle(int passes);
+void addBusy(std::vector<KeyEvent> keys);
+
+// Keys by name, one step each: "Up Down Left Right Enter Esc Space Tab
+// Backspace PgUp PgDn", a single character for itself ("y", "5"), and
+// "Release" for a key release. "Idle:N" adds N idle passes.
+void addKeys(const std::string& names);
+
+// Runs `body` until it returns or the script ends; true if the script
+// ended it.
+template <typename Body>
+bool run(Body&& body) {
+  try {
+    body();
+    return false;
+  } catch (const ScriptEnded&) {
+    return true;
+  }
+}
+
+// Steps of the script not yet taken, keys still queued.
+int stepsLeft();
+int queued();
+
+// The virtual clock: microseconds slept so far.
+std::int64_t clockMicros();
+
+// How often the game polled, read, flushed and showed the screen.
+int pollCount();
+int flushCount();
+
+// The screen, read back. Text comes as code page 437 codes.
+std::string textAt(int column, int row, int length);
+std::string rowText(int row);
+int colourAt(int column, int row);
+std::uint8_t codeAt(int column, int row);
+// True if `text` stands anywhere on the screen.
+bool screenHas(const std::string& text);
+// The whole screen, rows joined by newlines, for failure messages.
+std::string dump();
+
+}  // namespace scripted

@@ -1,0 +1,3 @@
+#include "game/shell/program.h"
+
+int main() { return runProgram(); }

@@ -1,0 +1,15 @@
+#include "game/shell/program.h"
+
+#include "game/console/console.h"
+
+int runProgram() {
+  Console::setColour(15);
+  Console::open();
+  Console::setSize(kScreenWidth, kScreenHeight);
+  Console::hideCursor();
+  Console::home();
+  Console::waitAnyKey();
+  Console::moveTo(0, kScreenHeight - 1);
+  Console::close();
+  return 0;
+}
