@@ -13,6 +13,7 @@ std::deque<KeyEvent> queue;
 std::int64_t clock = 0;
 int polls = 0;
 int flushes = 0;
+std::function<void(int)> sleepWatcher;
 
 // Keys of a key-down that yields a character or is an extended key count
 // for keyWaiting; a release or a lone modifier does not.
@@ -68,6 +69,7 @@ void reset() {
   clock = 0;
   polls = 0;
   flushes = 0;
+  sleepWatcher = nullptr;
   ScreenModel& s = Console::mutableScreen();
   s = ScreenModel{};
 }
@@ -88,6 +90,8 @@ void addKeys(const std::string& names) {
     }
   }
 }
+
+void watchSleeps(std::function<void(int)> watcher) { sleepWatcher = std::move(watcher); }
 
 int stepsLeft() { return static_cast<int>(script.size()); }
 int queued() { return static_cast<int>(queue.size()); }
@@ -166,6 +170,7 @@ void flushKeys() {
 }
 
 void sleep(int milliseconds) {
+  if (scripted::sleepWatcher) scripted::sleepWatcher(milliseconds);
   scripted::clock += static_cast<std::int64_t>(milliseconds) * 1000;
   // Keys the player typed while the game was busy are in the queue now.
   while (!scripted::script.empty() && scripted::script.front().kind == scripted::Step::Busy) {

@@ -14,6 +14,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -60,6 +61,10 @@ int queued();
 
 // The virtual clock: microseconds slept so far.
 std::int64_t clockMicros();
+
+// Called at every Console::sleep with its milliseconds, when the screen is
+// up to date: a test watches an animation frame by frame.
+void watchSleeps(std::function<void(int milliseconds)> watcher);
 
 // How often the game polled, read, flushed and showed the screen.
 int pollCount();

@@ -1,6 +1,7 @@
 #include "game/shell/program.h"
 
 #include "game/console/console.h"
+#include "game/shell/ship_map.h"
 
 int runProgram() {
   Console::setColour(15);
@@ -8,7 +9,8 @@ int runProgram() {
   Console::setSize(kScreenWidth, kScreenHeight);
   Console::hideCursor();
   Console::home();
-  Console::waitAnyKey();
+  drawShipMap();
+  runShipMap(kDeckNav);
   Console::moveTo(0, kScreenHeight - 1);
   Console::close();
   return 0;

@@ -1,0 +1,61 @@
+#include "game/shell/mothership.h"
+
+namespace {
+// What the day's work schedule (0 to 4) does to morale.
+constexpr float kScheduleMorale[5] = {5.0f, 1.0f, 0.0f, -3.0f, -15.0f};
+constexpr float kFamineMorale = -15.0f;
+}  // namespace
+
+std::int32_t Mothership::cargoUsed() const {
+  return static_cast<std::int32_t>(food_) + fuel_ + materials_ + artifacts_;
+}
+
+std::int32_t Mothership::dockSpaceUsed() const { return 40000 * readyCapsules_; }
+
+bool Mothership::addAdvisor(int id) {
+  static constexpr const char* kNames[9] = {"Carolla", "Emerson", "Pinsky",  "Scruggs", "Blobby the Blob",
+                                            "Hyde",    "Kryptal", "Zorblax", "Quenta"};
+  if (static_cast<int>(advisors_.size()) >= kAdvisorCapacity) return false;
+  Advisor advisor;
+  advisor.name.assign(id >= 0 && id < 9 ? kNames[id] : "");
+  advisor.id = id;
+  advisors_.push_back(advisor);
+  return true;
+}
+
+void Mothership::eatFood() {
+  // The captain eats too.
+  auto use = static_cast<std::uint32_t>(advisors_.size() + 1);
+  food_ = food_ > use ? food_ - use : 0;
+}
+
+void Mothership::updateMorale() {
+  if (food_ == 0) {
+    morale_ += kFamineMorale;
+  } else if (workSchedule_ >= 0 && workSchedule_ <= 4) {
+    morale_ += kScheduleMorale[workSchedule_];
+  }
+  if (morale_ >= 100.0f) morale_ = 100.0f;
+  if (morale_ <= 0.0f) morale_ = 0.0f;
+}
+
+void Mothership::reset() {
+  Mothership fresh;
+  food_ = fresh.food_;
+  fuel_ = fresh.fuel_;
+  materials_ = fresh.materials_;
+  artifacts_ = fresh.artifacts_;
+  readyCapsules_ = fresh.readyCapsules_;
+  currentSector_ = fresh.currentSector_;
+  destinationSector_ = fresh.destinationSector_;
+  morale_ = fresh.morale_;
+  engineLevel_ = fresh.engineLevel_;
+  shieldsOn_ = fresh.shieldsOn_;
+}
+
+void advanceDay() { ++globals().day; }
+
+void advanceFreighter() {
+  GlobalValues& g = globals();
+  if (--g.freighterCountdown < -6) g.freighterCountdown = 30;
+}

@@ -1,0 +1,14 @@
+#include "tests/support/fresh_game.h"
+
+#include "game/console/random.h"
+#include "game/console/scripted.h"
+#include "game/shell/mothership.h"
+#include "game/shell/starting_contents.h"
+
+void startFreshRun(unsigned seed) {
+  scripted::reset();
+  theMothership() = Mothership{};
+  globals() = GlobalValues{};
+  seedRandom(seed);
+  layStartingContents();
+}
