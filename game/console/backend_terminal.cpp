@@ -24,6 +24,7 @@
 #endif
 #include <curses.h>
 #include <langinfo.h>
+#include <poll.h>
 #include <signal.h>
 #include <term.h>
 #include <termios.h>
@@ -42,9 +43,16 @@ namespace {
 
 using SteadyClock = std::chrono::steady_clock;
 
-constexpr int kFastWaitMs = 1;
+// While the screen moves, the polling loops are paced at about 1 ms a pass:
+// one wait of 10 ms for every ten passes, so that an animation counted in
+// passes runs at a steady speed and the process wakes 100 times a second,
+// not 1000. Once the screen has stood still for half a second, every pass
+// waits 20 ms. A key ends any wait at once.
+constexpr int kPassesPerWait = 10;
+constexpr int kFastWaitMs = 10;
 constexpr int kSlowWaitMs = 20;
 constexpr auto kStillAfter = std::chrono::milliseconds(500);
+constexpr auto kFreshInput = std::chrono::milliseconds(2);
 constexpr char kSizeNotice[] = " Skarmada needs a terminal of 80x25 ";
 
 bool isOpen = false;
@@ -57,6 +65,8 @@ short pairs[256];
 short nextPair = 1;
 std::deque<KeyEvent> pending;
 SteadyClock::time_point lastChange;
+SteadyClock::time_point lastEmptied;  // when the terminal last had no input left
+int passesSinceWait = 0;
 
 // What the signal handler writes to put the terminal back; prepared at open
 // so that the handler itself only calls write and tcsetattr.
@@ -264,24 +274,42 @@ bool translate(int status, wint_t input, KeyEvent& event) {
   return true;
 }
 
-// One read from the terminal, waiting at most `waitMs` (-1: for ever).
-// True if it brought a key into the queue.
-bool fetch(int waitMs) {
-  timeout(waitMs);
+// Takes every key the terminal has ready into the queue, without waiting.
+// Returns how many reads brought something, keys or not.
+int drain() {
+  timeout(0);
+  int reads = 0;
   wint_t input = 0;
-  int status = wget_wch(stdscr, &input);
-  if (status == ERR) {
-    if (waitMs < 0 && errno != EINTR) {
-      // The terminal is gone: nothing more can be read or shown.
-      Console::close();
-      std::exit(1);
-    }
-    return false;
+  int status;
+  while ((status = wget_wch(stdscr, &input)) != ERR) {
+    ++reads;
+    KeyEvent event;
+    if (translate(status, input, event)) pending.push_back(event);
   }
-  KeyEvent event;
-  if (!translate(status, input, event)) return false;
-  pending.push_back(event);
-  return true;
+  return reads;
+}
+
+// Waits up to `waitMs` (-1: for ever) for the terminal to have input, and
+// takes what it has. True if a key is in the queue. The wait is a plain
+// poll, so a pass of a polling loop that finds nothing costs one system call.
+bool fetch(int waitMs) {
+  static int emptyReads = 0;
+  struct pollfd input {STDIN_FILENO, POLLIN, 0};
+  int ready = poll(&input, 1, waitMs);
+  if (ready < 0) {
+    if (errno == EINTR) drain();  // a signal: perhaps the terminal changed size
+    return !pending.empty();
+  }
+  lastEmptied = SteadyClock::now();
+  if (ready == 0) return false;
+  if (drain() > 0) {
+    emptyReads = 0;
+  } else if ((input.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0 || ++emptyReads > 1000) {
+    // The terminal is gone: nothing more can be read or shown.
+    Console::close();
+    std::exit(1);
+  }
+  return !pending.empty();
 }
 
 }  // namespace
@@ -342,8 +370,10 @@ void show(ScreenModel& screen) {
 
 bool keyWaiting() {
   if (!pending.empty()) return true;
-  bool still = SteadyClock::now() - lastChange > kStillAfter;
-  return fetch(still ? kSlowWaitMs : kFastWaitMs);
+  if (SteadyClock::now() - lastChange > kStillAfter) return fetch(kSlowWaitMs);
+  if (++passesSinceWait < kPassesPerWait) return false;
+  passesSinceWait = 0;
+  return fetch(kFastWaitMs);
 }
 
 KeyEvent readKey() {
@@ -355,7 +385,10 @@ KeyEvent readKey() {
 
 void flushKeys() {
   pending.clear();
-  flushinp();
+  // Right after a look at the terminal found it empty there is nothing to
+  // throw away; the polling loops flush on every pass, and this spares
+  // them a system call.
+  if (SteadyClock::now() - lastEmptied > kFreshInput) flushinp();
 }
 
 void sleep(int milliseconds) {

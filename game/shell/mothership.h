@@ -102,6 +102,7 @@ struct GlobalValues {
   std::int32_t freighterCountdown = 30;  // days until the Super Freighter; 0 to -6 in orbit
   bool lowFoodWarned = false;            // the famine warning was shown for this famine
   bool gameOver = false;                 // an ending was shown: every loop unwinds
+  bool gamePlayed = false;               // a game was started in this run of the program
 };
 
 Mothership& theMothership();

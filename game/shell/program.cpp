@@ -1,7 +1,7 @@
 #include "game/shell/program.h"
 
 #include "game/console/console.h"
-#include "game/shell/ship_map.h"
+#include "game/shell/title_menu.h"
 
 int runProgram() {
   Console::setColour(15);
@@ -9,8 +9,7 @@ int runProgram() {
   Console::setSize(kScreenWidth, kScreenHeight);
   Console::hideCursor();
   Console::home();
-  drawShipMap();
-  runShipMap(kDeckNav);
+  runTitleMenu();
   Console::moveTo(0, kScreenHeight - 1);
   Console::close();
   return 0;

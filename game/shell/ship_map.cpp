@@ -5,6 +5,7 @@
 
 #include "game/art/ship.h"
 #include "game/console/console.h"
+#include "game/research/engineering_deck.h"
 #include "game/shell/mothership.h"
 #include "game/shell/status_bar.h"
 
@@ -66,7 +67,9 @@ constexpr int kMoves[kDeckCount][4] = {
 // The routine behind each room, entered with Enter. A room whose deck is
 // not aboard yet only flashes.
 using DeckRoutine = void (*)();
-constexpr DeckRoutine kDeckRoutines[kDeckCount] = {};
+constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
+    nullptr, nullptr, nullptr, runEngineeringDeck, nullptr, nullptr, nullptr, nullptr,
+};
 
 // The plain drawing with the rooms' cells blanked: the hull under the shield.
 const std::array<std::string, 19>& shieldedRows() {

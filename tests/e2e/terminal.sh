@@ -1,2 +1,58 @@
-#!/bin/sh
-exit 77
+#!/usr/bin/env bash
+# The real game in a real terminal: tmux at 80x25, one key at a time.
+# Usage: terminal.sh path/to/skarmada
+set -u
+bin=$(realpath "$1")
+if ! command -v tmux >/dev/null 2>&1; then
+  echo "SKIPPED: tmux is not installed, so the game cannot be played in a terminal here"
+  exit 77
+fi
+
+sock="skarmada-e2e-$$"
+t() { tmux -L "$sock" -f /dev/null "$@"; }
+trap 't kill-server >/dev/null 2>&1' EXIT
+fail() {
+  echo "FAIL: $*"
+  echo "--- screen ---"
+  t capture-pane -p -t game 2>/dev/null
+  exit 1
+}
+screen() { t capture-pane -p -t game; }
+wait_for() {  # text [seconds]
+  local until=$((SECONDS + ${2:-5}))
+  while ((SECONDS < until)); do
+    screen | grep -qF -- "$1" && return 0
+    sleep 0.05
+  done
+  fail "\"$1\" never came on the screen"
+}
+key() { t send-keys -t game "$@"; sleep 0.15; }
+pane() { t display-message -p -t game "$1"; }
+
+# The curses library keeps its terminal description until the process ends;
+# that is not a leak worth a report on the terminal.
+start() {
+  t new-session -d -s game -x 80 -y 25 \
+    "env TERM=xterm-256color ASAN_OPTIONS=detect_leaks=0 $bin" \; set-option -w remain-on-exit on
+}
+
+start
+wait_for "DAY:    1"
+wait_for "FUEL: 150,000"
+screen | sed -n 3,6p | grep -q "NAV" || fail "NAV COM room is not on the map"
+wait_for " NAVIGATION:"
+key Right
+wait_for " RESEARCH:"
+t capture-pane -e -p -t game | sed -n 8p | grep -qE $'\e\\[(1;)?(33|93|38;5;11)m[^\e]*SCIENTIFIC' ||
+  fail "the research room is not lit yellow"
+
+# Ctrl+C ends the program at once and leaves the terminal as it was.
+key C-c
+until=$((SECONDS + 1))
+while [ "$(pane '#{pane_dead}')" != 1 ]; do
+  ((SECONDS <= until)) || fail "Ctrl+C did not end the game within a second"
+  sleep 0.05
+done
+[ "$(pane '#{alternate_on}')" = 0 ] || fail "the terminal was left on the game's screen"
+[ "$(pane '#{cursor_flag}')" = 1 ] || fail "the cursor was left hidden"
+echo "PASS: the ship map in a real terminal"
