@@ -357,6 +357,7 @@ void open() {
 void close() {
   if (!isOpen) return;
   move(kScreenHeight - 1, 0);
+  curs_set(1);
   refresh();
   endwin();
   isOpen = false;

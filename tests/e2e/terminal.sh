@@ -29,14 +29,45 @@ wait_for() {  # text [seconds]
 key() { t send-keys -t game "$@"; sleep 0.15; }
 pane() { t display-message -p -t game "$1"; }
 
-# The curses library keeps its terminal description until the process ends;
-# that is not a leak worth a report on the terminal.
+# The game runs under a small shell that stays behind it, so that what the
+# game leaves of the terminal can be read: its exit code, whether the
+# terminal modes are as before, the cursor and the main screen. The curses
+# library keeps its terminal description until the process ends; that is
+# not a leak worth a report on the terminal.
 start() {
-  t new-session -d -s game -x 80 -y 25 \
-    "env TERM=xterm-256color ASAN_OPTIONS=detect_leaks=0 $bin" \; set-option -w remain-on-exit on
+  t new-session -d -s game -x 80 -y 25 "trap true INT; before=\$(stty -g);
+    env TERM=xterm-256color ASAN_OPTIONS=detect_leaks=0 '$bin'; code=\$?;
+    [ \"\$before\" = \"\$(stty -g)\" ] && echo MODES-RESTORED; echo EXITED-\$code; sleep 60"
 }
 
+ended() {  # seconds: true once the game has ended
+  local until=$((SECONDS + $1))
+  until screen | grep -q EXITED-; do
+    ((SECONDS <= until)) || return 1
+    sleep 0.05
+  done
+}
+restored() {
+  screen | grep -q MODES-RESTORED || fail "the terminal's modes (echo, line editing) were not restored"
+  [ "$(pane '#{alternate_on}')" = 0 ] || fail "the terminal was left on the game's screen"
+  [ "$(pane '#{cursor_flag}')" = 1 ] || fail "the cursor was left hidden"
+}
+
+# The title screen comes first; EXIT ends the program with code 0.
 start
+wait_for "NEW GAME"
+wait_for "VIEW CREDITS"
+key Up
+key Enter
+ended 2 || fail "EXIT did not end the program"
+screen | grep -q EXITED-0 || fail "EXIT did not end with code 0"
+restored
+t kill-session -t game
+
+# NEW GAME reaches the ship map.
+start
+wait_for "NEW GAME"
+key Enter
 wait_for "DAY:    1"
 wait_for "FUEL: 150,000"
 screen | sed -n 3,6p | grep -q "NAV" || fail "NAV COM room is not on the map"
@@ -48,11 +79,16 @@ t capture-pane -e -p -t game | sed -n 8p | grep -qE $'\e\\[(1;)?(33|93|38;5;11)m
 
 # Ctrl+C ends the program at once and leaves the terminal as it was.
 key C-c
-until=$((SECONDS + 1))
-while [ "$(pane '#{pane_dead}')" != 1 ]; do
-  ((SECONDS <= until)) || fail "Ctrl+C did not end the game within a second"
-  sleep 0.05
-done
-[ "$(pane '#{alternate_on}')" = 0 ] || fail "the terminal was left on the game's screen"
-[ "$(pane '#{cursor_flag}')" = 1 ] || fail "the cursor was left hidden"
-echo "PASS: the ship map in a real terminal"
+ended 1 || fail "Ctrl+C did not end the game within a second"
+restored
+t kill-session -t game
+
+# SIGTERM, as when the system shuts down, also leaves the terminal as it was.
+start
+wait_for "NEW GAME"
+game=$(pgrep -P "$(pane '#{pane_pid}')" | head -n 1)
+[ -n "$game" ] || fail "the game's process was not found"
+kill -TERM "$game"
+ended 1 || fail "SIGTERM did not end the game"
+restored
+echo "PASS: the title and the ship map in a real terminal"
