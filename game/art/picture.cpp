@@ -1,10 +1,17 @@
 #include "game/art/picture.h"
 
+#include <unordered_map>
+
 #include "game/console/console.h"
 #include "game/console/cp437.h"
 
-std::string pictureRow(const Picture& picture, int row) {
-  return cp437::fromUtf8(picture.rows[row]);
+const std::string& pictureRow(const Picture& picture, int row) {
+  // Rows are decoded once: the ship map redraws its rooms on every pass.
+  static std::unordered_map<const char*, std::string> decoded;
+  const char* source = picture.rows[row];
+  auto it = decoded.find(source);
+  if (it == decoded.end()) it = decoded.emplace(source, cp437::fromUtf8(source)).first;
+  return it->second;
 }
 
 int pictureColour(const Picture& picture, int column, int row, int colour) {
@@ -19,7 +26,7 @@ int pictureColour(const Picture& picture, int column, int row, int colour) {
 
 void drawPicture(const Picture& picture, int column, int row, int colour) {
   for (int y = 0; y < picture.height; ++y) {
-    std::string codes = pictureRow(picture, y);
+    const std::string& codes = pictureRow(picture, y);
     int x = 0;
     while (x < picture.width) {
       int runColour = pictureColour(picture, x, y, colour);

@@ -11,6 +11,7 @@
 // Pictures are drawn as runs of cells of one colour with Console::putText.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -29,8 +30,21 @@ struct Picture {
   int paletteSize;
 };
 
+// A picture from its rows, its key rows and its palette, sized by them.
+template <std::size_t H, std::size_t P>
+constexpr Picture coloured(int width, const char* const (&rows)[H], const char* const (&keys)[H],
+                           const PaletteEntry (&palette)[P]) {
+  return {width, static_cast<int>(H), rows, keys, palette, static_cast<int>(P)};
+}
+
+// A one-colour picture from its rows.
+template <std::size_t H>
+constexpr Picture plain(int width, const char* const (&rows)[H]) {
+  return {width, static_cast<int>(H), rows, nullptr, nullptr, 0};
+}
+
 // The codes of one row, decoded from its glyphs.
-std::string pictureRow(const Picture& picture, int row);
+const std::string& pictureRow(const Picture& picture, int row);
 
 // The colour of a cell, or -1 where the cell is not drawn. A one-colour
 // picture gives `colour` for every cell.

@@ -1,6 +1,8 @@
 #include "game/console/cp437.h"
 
+#include <algorithm>
 #include <array>
+#include <vector>
 
 namespace cp437 {
 namespace {
@@ -60,10 +62,23 @@ char toAscii(std::uint8_t code) {
 
 int fromUnicode(char32_t point) {
   if (point >= 0x20 && point < 0x7F) return static_cast<int>(point);
-  for (int code = 1; code < 256; ++code) {
-    if (kUnicode[code] == point && !(code >= 0x20 && code < 0x7F)) return code;
-  }
-  return -1;
+  // The glyphs outside ASCII, sorted by code point once, for a binary search.
+  struct Entry {
+    char32_t point;
+    int code;
+  };
+  static const std::vector<Entry> sorted = [] {
+    std::vector<Entry> entries;
+    for (int code = 1; code < 256; ++code) {
+      if (code < 0x20 || code >= 0x7F) entries.push_back({kUnicode[code], code});
+    }
+    std::sort(entries.begin(), entries.end(),
+              [](const Entry& a, const Entry& b) { return a.point < b.point; });
+    return entries;
+  }();
+  auto it = std::lower_bound(sorted.begin(), sorted.end(), point,
+                             [](const Entry& e, char32_t p) { return e.point < p; });
+  return it != sorted.end() && it->point == point ? it->code : -1;
 }
 
 std::string fromUtf8(std::string_view utf8, bool* ok) {

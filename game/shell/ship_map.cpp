@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "game/art/ship.h"
 #include "game/console/console.h"
@@ -134,10 +135,11 @@ void drawDeckLabel(int deck, int colour) {
   const RoomOutline& room = kRoomOutlines[deck];
   for (int i = 0; i < room.count; ++i) {
     const RoomWrite& w = room.writes[i];
-    std::string cells = deck == kDeckSuperFreighter
-                            ? pictureRow(kFreighterRoomPicture, w.row - kFreighterRoomRow)
-                                  .substr(w.column - kFreighterRoomColumn, w.length)
-                            : pictureRow(kShipPicture, w.row).substr(w.column, w.length);
+    std::string_view cells =
+        deck == kDeckSuperFreighter
+            ? std::string_view(pictureRow(kFreighterRoomPicture, w.row - kFreighterRoomRow))
+                  .substr(w.column - kFreighterRoomColumn, w.length)
+            : std::string_view(pictureRow(kShipPicture, w.row)).substr(w.column, w.length);
     Console::putText(cells, w.column, w.row, colour);
   }
 }

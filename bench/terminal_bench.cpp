@@ -1,0 +1,198 @@
+// What the game costs in a real terminal: the skarmada binary in a
+// pseudo-terminal of 80x25, driven by keys, its output and CPU measured.
+//
+//   ShipMapIdle     the ship map left alone: CPU and bytes written
+//   TitleIdle       the title animation left alone: runner steps per second,
+//                   bytes per step, CPU
+//   RoomMove        a room move on the ship map: key to the last byte
+//   EscapeKey       Escape leaving a deck: key to the first byte
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <pty.h>
+#include <signal.h>
+#include <sys/ioctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double secondsSince(Clock::time_point start) {
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+class Game {
+ public:
+  Game() {
+    struct winsize size {};
+    size.ws_row = 25;
+    size.ws_col = 80;
+    pid_ = forkpty(&master_, nullptr, nullptr, &size);
+    if (pid_ == 0) {
+      setenv("TERM", "xterm-256color", 1);
+      setenv("LANG", "C.UTF-8", 1);
+      setenv("LC_ALL", "C.UTF-8", 1);
+      execl(SKARMADA_BINARY, "skarmada", static_cast<char*>(nullptr));
+      _exit(127);
+    }
+    fcntl(master_, F_SETFL, O_NONBLOCK);
+  }
+  ~Game() {
+    kill(pid_, SIGTERM);
+    waitpid(pid_, nullptr, 0);
+    close(master_);
+  }
+
+  void send(const std::string& keys) {
+    ssize_t written = write(master_, keys.data(), keys.size());
+    (void)written;
+  }
+
+  // Reads what the game writes until it has been quiet for `quietMs` (or
+  // for at most five seconds); returns the bytes, and when the first and
+  // the last of them came.
+  std::string settle(int quietMs, Clock::time_point* lastByte = nullptr,
+                     Clock::time_point* firstByte = nullptr) {
+    std::string out;
+    auto start = Clock::now();
+    while (secondsSince(start) < 5.0) {
+      struct pollfd p {master_, POLLIN, 0};
+      if (poll(&p, 1, quietMs) <= 0) return out;
+      char buffer[4096];
+      ssize_t n = read(master_, buffer, sizeof buffer);
+      if (n <= 0) return out;
+      if (out.empty() && firstByte != nullptr) *firstByte = Clock::now();
+      out.append(buffer, static_cast<std::size_t>(n));
+      if (lastByte != nullptr) *lastByte = Clock::now();
+    }
+    return out;
+  }
+
+  // Everything written over a span of seconds.
+  std::string collect(double seconds) {
+    std::string out;
+    auto start = Clock::now();
+    while (secondsSince(start) < seconds) {
+      struct pollfd p {master_, POLLIN, 0};
+      if (poll(&p, 1, 50) <= 0) continue;
+      char buffer[4096];
+      ssize_t n = read(master_, buffer, sizeof buffer);
+      if (n > 0) out.append(buffer, static_cast<std::size_t>(n));
+    }
+    return out;
+  }
+
+  // CPU seconds the game has used so far.
+  double cpuSeconds() const {
+    std::ifstream stat("/proc/" + std::to_string(pid_) + "/stat");
+    std::string line;
+    std::getline(stat, line);
+    std::istringstream fields(line.substr(line.rfind(')') + 2));
+    std::string field;
+    long ticks = 0;
+    for (int i = 3; i <= 15 && fields >> field; ++i) {
+      if (i == 14 || i == 15) ticks += std::stol(field);
+    }
+    return static_cast<double>(ticks) / static_cast<double>(sysconf(_SC_CLK_TCK));
+  }
+
+ private:
+  int master_ = -1;
+  pid_t pid_ = -1;
+};
+
+constexpr char kEnter[] = "\r";
+// The game puts the terminal's cursor keys in application mode.
+constexpr char kRight[] = "\x1bOC";
+constexpr char kLeft[] = "\x1bOD";
+constexpr char kDown[] = "\x1bOB";
+constexpr char kEscape[] = "\x1b";
+constexpr double kIdleSeconds = 5.0;
+
+void onTheShipMap(Game& game) {
+  game.collect(0.5);  // the title never stands still
+  game.send(kEnter);  // NEW GAME
+  game.settle(800);   // long enough for the screen to count as still
+}
+
+void ShipMapIdle(benchmark::State& state) {
+  for (auto _ : state) {
+    Game game;
+    onTheShipMap(game);
+    double cpu = game.cpuSeconds();
+    std::string out = game.collect(kIdleSeconds);
+    state.SetIterationTime(kIdleSeconds);
+    state.counters["cpu_percent"] = 100.0 * (game.cpuSeconds() - cpu) / kIdleSeconds;
+    state.counters["bytes_written"] = static_cast<double>(out.size());
+  }
+}
+
+void TitleIdle(benchmark::State& state) {
+  for (auto _ : state) {
+    Game game;
+    game.collect(0.5);
+    double cpu = game.cpuSeconds();
+    std::string out = game.collect(kIdleSeconds);
+    state.SetIterationTime(kIdleSeconds);
+    // Each runner step lights its head with a middle dot (U+2219).
+    int steps = 0;
+    for (std::size_t at = out.find("\xE2\x88\x99"); at != std::string::npos;
+         at = out.find("\xE2\x88\x99", at + 1)) {
+      ++steps;
+    }
+    state.counters["runner_steps_per_s"] = steps / kIdleSeconds;
+    state.counters["bytes_per_step"] = steps > 0 ? static_cast<double>(out.size()) / steps : 0;
+    state.counters["cpu_percent"] = 100.0 * (game.cpuSeconds() - cpu) / kIdleSeconds;
+  }
+}
+
+void RoomMove(benchmark::State& state) {
+  Game game;
+  onTheShipMap(game);
+  bool right = true;
+  for (auto _ : state) {
+    auto start = Clock::now();
+    Clock::time_point last = start;
+    game.send(right ? kRight : kLeft);
+    game.settle(100, &last);
+    right = !right;
+    state.SetIterationTime(std::chrono::duration<double>(last - start).count());
+  }
+}
+
+void EscapeKey(benchmark::State& state) {
+  Game game;
+  onTheShipMap(game);
+  game.send(kRight);
+  game.settle(100);
+  game.send(kDown);
+  game.settle(100);
+  game.send(kRight);  // ENGINEERING
+  game.settle(100);
+  for (auto _ : state) {
+    game.send(kEnter);  // flash, then the deck's menu
+    game.settle(300);
+    auto start = Clock::now();
+    Clock::time_point first = start;
+    game.send(kEscape);
+    game.settle(100, nullptr, &first);
+    state.SetIterationTime(std::chrono::duration<double>(first - start).count());
+  }
+}
+
+}  // namespace
+
+BENCHMARK(ShipMapIdle)->Iterations(1)->UseManualTime()->Unit(benchmark::kSecond);
+BENCHMARK(TitleIdle)->Iterations(1)->UseManualTime()->Unit(benchmark::kSecond);
+BENCHMARK(RoomMove)->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(EscapeKey)->Iterations(10)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+BENCHMARK_MAIN();
