@@ -6,6 +6,7 @@
 
 #include "game/art/ship.h"
 #include "game/console/console.h"
+#include "game/messages/library_deck.h"
 #include "game/research/engineering_deck.h"
 #include "game/shell/mothership.h"
 #include "game/shell/status_bar.h"
@@ -69,7 +70,7 @@ constexpr int kMoves[kDeckCount][4] = {
 // not aboard yet only flashes.
 using DeckRoutine = void (*)();
 constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
-    nullptr, nullptr, nullptr, runEngineeringDeck, nullptr, nullptr, nullptr, nullptr,
+    nullptr, runLibraryDeck, nullptr, runEngineeringDeck, nullptr, nullptr, nullptr, nullptr,
 };
 
 // The plain drawing with the rooms' cells blanked: the hull under the shield.

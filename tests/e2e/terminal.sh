@@ -77,6 +77,18 @@ wait_for " RESEARCH:"
 t capture-pane -e -p -t game | sed -n 8p | grep -qE $'\e\\[(1;)?(33|93|38;5;11)m[^\e]*SCIENTIFIC' ||
   fail "the research room is not lit yellow"
 
+# End a day in the Library: the map comes back on day 2, Library selected.
+key Down
+wait_for " LIBRARY:"
+key Enter
+wait_for "End Turn Factor 6"
+key Down
+key Enter
+wait_for "End Day?"
+key y
+wait_for "DAY:    2"
+wait_for " LIBRARY:"
+
 # Ctrl+C ends the program at once and leaves the terminal as it was.
 key C-c
 ended 1 || fail "Ctrl+C did not end the game within a second"

@@ -2,6 +2,7 @@
 
 #include "game/console/random.h"
 #include "game/console/scripted.h"
+#include "game/messages/message_log.h"
 #include "game/shell/mothership.h"
 #include "game/shell/starting_contents.h"
 
@@ -9,6 +10,7 @@ void startFreshRun(unsigned seed) {
   scripted::reset();
   theMothership() = Mothership{};
   globals() = GlobalValues{};
+  theMessageLog().clear();
   seedRandom(seed);
   layStartingContents();
 }
