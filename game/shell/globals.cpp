@@ -1,10 +1,9 @@
 // The game's global objects, all in this one file so that they are built in
-// a fixed order before main runs: the Mothership, the random numbers, the
-// ship's starting contents, the message log.
-#include <ctime>
-
-#include "game/console/random.h"
+// a fixed order before main runs: the Mothership, the planet (whose first
+// sub-sector seeds the random numbers), the ship's starting contents, the
+// message log.
 #include "game/messages/message_log.h"
+#include "game/planet/planet.h"
 #include "game/shell/mothership.h"
 #include "game/shell/starting_contents.h"
 
@@ -13,9 +12,7 @@ namespace {
 Mothership mothership;
 GlobalValues values;
 
-struct SeedFromClock {
-  SeedFromClock() { seedRandom(static_cast<unsigned>(std::time(nullptr))); }
-} seedFromClock;
+Planet planet;
 
 struct StartingContents {
   StartingContents() { layStartingContents(); }
@@ -28,3 +25,4 @@ MessageLog messageLog;
 Mothership& theMothership() { return mothership; }
 GlobalValues& globals() { return values; }
 MessageLog& theMessageLog() { return messageLog; }
+Planet& thePlanet() { return planet; }

@@ -1,5 +1,6 @@
 #include "game/shell/starting_contents.h"
 
+#include "game/planet/planet.h"
 #include "game/shell/mothership.h"
 
 namespace {
@@ -13,6 +14,7 @@ void boardAdvisors() {
 void layStartingContents() { boardAdvisors(); }
 
 void resetGame() {
+  for (int n = 1; n <= kSectorCount; ++n) thePlanet().sector(n).bunker().clear();
   Mothership& ship = theMothership();
   ship.advisors().clear();
   ship.reset();

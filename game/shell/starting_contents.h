@@ -6,6 +6,7 @@
 void layStartingContents();
 
 // Called by NEW GAME from the second game of a run on: the ship and the
-// calendar as a new game has them. The planet, the message log and the
-// famine flag stay as the last game left them.
+// calendar as a new game has them, and every bunker emptied. The land, its
+// forces, the message log and the famine flag stay as the last game left
+// them.
 void resetGame();

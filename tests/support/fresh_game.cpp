@@ -3,12 +3,14 @@
 #include "game/console/random.h"
 #include "game/console/scripted.h"
 #include "game/messages/message_log.h"
+#include "game/planet/planet.h"
 #include "game/shell/mothership.h"
 #include "game/shell/starting_contents.h"
 
 void startFreshRun(unsigned seed) {
   scripted::reset();
   theMothership() = Mothership{};
+  thePlanet() = Planet{};
   globals() = GlobalValues{};
   theMessageLog().clear();
   seedRandom(seed);

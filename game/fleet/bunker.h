@@ -1,0 +1,36 @@
+// A bunker: the player's base on the ground. Every sector holds one from the
+// start, built or not; a capsule brings crew, food and materials to it and
+// the crew build it day by day.
+#pragma once
+
+#include <cstdint>
+
+class Bunker {
+ public:
+  std::int32_t getFood() const { return food_; }
+  std::int32_t materials() const { return materials_; }
+  std::int32_t getSubSector() const { return subSector_; }
+  bool isBuilt() const { return built_; }
+  double progress() const { return progress_; }
+  char sectorLetter() const { return sectorLetter_; }
+
+  void addFood(std::int32_t amount) { food_ += amount; }
+  void addMaterials(std::int32_t amount) { materials_ += amount; }
+  // The site, 0 to 15: set at each capsule landing.
+  void setSubSector(std::int32_t subSector) { subSector_ = subSector; }
+  void setSectorLetter(char letter) { sectorLetter_ = letter; }
+
+  // Empties the bunker for a new game: its stores, and it is no longer
+  // built. The site and the work done stay.
+  void clear();
+
+ private:
+  std::int32_t food_ = 0;
+  std::int32_t fuel_ = 0;       // nothing changes it
+  std::int32_t materials_ = 0;
+  std::int32_t artifacts_ = 0;  // nothing changes it
+  bool built_ = false;
+  std::int32_t subSector_ = -1;  // -1 until a capsule has been aimed here
+  double progress_ = 0.0;        // percent of the work done
+  char sectorLetter_ = '?';
+};
