@@ -19,6 +19,11 @@ class Bunker {
   // The site, 0 to 15: set at each capsule landing.
   void setSubSector(std::int32_t subSector) { subSector_ = subSector; }
   void setSectorLetter(char letter) { sectorLetter_ = letter; }
+  // The crew have finished the work.
+  void markBuilt() {
+    built_ = true;
+    progress_ = 100.0;
+  }
 
   // Empties the bunker for a new game: its stores, and it is no longer
   // built. The site and the work done stay.

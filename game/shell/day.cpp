@@ -1,6 +1,7 @@
 #include "game/shell/day.h"
 
 #include "game/messages/message_log.h"
+#include "game/planet/planet.h"
 #include "game/shell/endings.h"
 #include "game/shell/mothership.h"
 
@@ -70,6 +71,10 @@ void testForTheEnd(const Mothership& ship) {
     showMutinyEnding();
     setGameOver(true);
   }
+  if (thePlanet().enemyTotal() == 0) {
+    showVictoryEnding();
+    setGameOver(true);
+  }
 }
 
 }  // namespace
@@ -85,6 +90,7 @@ void runDay() {
   warnOfFamine(ship);
   ship.updateMorale();
   postMoraleNews(ship, log);
+  ship.moveOneDay();
   postFuelNews(ship, log);
   testForTheEnd(ship);
 }

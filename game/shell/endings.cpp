@@ -57,6 +57,18 @@ constexpr EndScreen kOutOfFuel{
     0,
     0};
 
+constexpr EndScreen kCannonDrankTheFuel{
+    {{1, 1, 12, "Your ship has no fuel and you die."},
+     {2, 2, 12, "Maybe you should check your fuel levels next time"},
+     {3, 3, 12, "before you fire your Ion Cannon."},
+     {10, 6, 15, "AT LEAST YA WENT OUT WITH A BANG!"},
+     {0, 21, 14, "YOU ARE DEAD CAPTAIN! YOUR SHIP RAN OUT OF FUEL!"},
+     {0, 22, 14, "YOUR PRETTY MOTHERSHIP CRASHED INTO THE GROUND! GOOD BYE!"}},
+    6,
+    nullptr,
+    0,
+    0};
+
 constexpr EndScreen kVictory{{{1, 1, 12, "You destroyed America!"},
                               {2, 2, 12, "You Owned EVERYONE"},
                               {3, 3, 12, "Now the Povolnians have a new home."},
@@ -97,6 +109,7 @@ void showMutinyEnding() {
 void showFuelEnding() { show(kOutOfFuel); }
 void showVictoryEnding() { show(kVictory); }
 void showFamineWarning() { show(kFamine); }
+void showCannonFuelEnding() { show(kCannonDrankTheFuel); }
 
 void drawKryptalPortrait(int column, int row) { drawPicture(kKryptalPortrait, column, row); }
 void drawCarollaPortrait(int column, int row) { drawPicture(kCarollaPortrait, column, row); }

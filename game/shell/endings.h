@@ -9,6 +9,8 @@ void showMutinyEnding();
 void showFuelEnding();
 void showVictoryEnding();
 void showFamineWarning();
+// The Ion Cannon drank the last of the fuel.
+void showCannonFuelEnding();
 
 // Portraits, 40 cells by 17 rows with their top left corner at the place.
 void drawKryptalPortrait(int column, int row);

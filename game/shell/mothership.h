@@ -76,6 +76,9 @@ class Mothership {
   // Morale moves by the work schedule, or falls hard without food.
   void updateMorale();
 
+  // The day's movement: one step toward the destination, and its fuel.
+  void moveOneDay();
+
   // Stores, place, morale, engine and shield back to a new game's; the work
   // schedule and the lists stay.
   void reset();

@@ -7,6 +7,7 @@
 #include "game/art/ship.h"
 #include "game/console/console.h"
 #include "game/messages/library_deck.h"
+#include "game/planet/navigation.h"
 #include "game/research/engineering_deck.h"
 #include "game/shell/mothership.h"
 #include "game/shell/status_bar.h"
@@ -70,7 +71,8 @@ constexpr int kMoves[kDeckCount][4] = {
 // not aboard yet only flashes.
 using DeckRoutine = void (*)();
 constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
-    nullptr, runLibraryDeck, nullptr, runEngineeringDeck, nullptr, nullptr, nullptr, nullptr,
+    runNavigationDeck, runLibraryDeck, nullptr, runEngineeringDeck,
+    nullptr,           nullptr,        nullptr, nullptr,
 };
 
 // The plain drawing with the rooms' cells blanked: the hull under the shield.

@@ -84,7 +84,7 @@ TEST_F(ShipMapTest, EnterFlashesTheRoomThreeTimesAndAHalf) {
     colours.push_back(scripted::colourAt(6, 3));
     waits.push_back(ms);
   });
-  play(kDeckNav, "Enter");
+  play(kDeckNav, "Enter Esc Idle:1");
   EXPECT_EQ(colours, (std::vector<int>{12, 14, 12, 14, 12, 14, 12}));
   EXPECT_EQ(waits, std::vector<int>(7, 80));
   EXPECT_EQ(scripted::clockMicros(), 560000);
