@@ -14,6 +14,7 @@ std::int64_t clock = 0;
 int polls = 0;
 int flushes = 0;
 std::function<void(int)> sleepWatcher;
+std::function<bool(KeyEvent&)> player;
 
 // Keys of a key-down that yields a character or is an extended key count
 // for keyWaiting; a release or a lone modifier does not.
@@ -25,7 +26,12 @@ bool counts(const KeyEvent& event) {
 // (`polling`) stops at an idle pass and reports it as false.
 bool refill(bool polling) {
   while (queue.empty()) {
-    if (script.empty()) throw ScriptEnded{};
+    if (script.empty()) {
+      KeyEvent key;
+      if (!player || !player(key)) throw ScriptEnded{};
+      queue.push_back(key);
+      return true;
+    }
     Step& step = script.front();
     if (step.kind == Step::Idle) {
       if (!polling) {
@@ -70,6 +76,7 @@ void reset() {
   polls = 0;
   flushes = 0;
   sleepWatcher = nullptr;
+  player = nullptr;
   ScreenModel& s = Console::mutableScreen();
   s = ScreenModel{};
 }
@@ -92,6 +99,7 @@ void addKeys(const std::string& names) {
 }
 
 void watchSleeps(std::function<void(int)> watcher) { sleepWatcher = std::move(watcher); }
+void setPlayer(std::function<bool(KeyEvent&)> newPlayer) { player = std::move(newPlayer); }
 
 int stepsLeft() { return static_cast<int>(script.size()); }
 int queued() { return static_cast<int>(queue.size()); }

@@ -8,6 +8,9 @@
 //   idle     the polling loops find no key for this many passes
 //   busy     keys pressed while the game is busy: they reach the queue the
 //            next time the game sleeps, so that a flush can drop them
+// A player can also be a function (setPlayer): once the script is used up,
+// it is asked for each key the game waits for, and can look at the screen
+// to choose it; it ends the run by giving no key.
 // When the game asks for input and the script is used up, the run ends: the
 // backend throws ScriptEnded, which unwinds the game back to the test. A
 // blocking read passes over idle steps.
@@ -37,6 +40,9 @@ void addKeys(std::vector<KeyEvent> keys);
 void addKey(KeyEvent key);
 void addIdle(int passes);
 void addBusy(std::vector<KeyEvent> keys);
+
+// The player asked for keys once the script is used up; false ends the run.
+void setPlayer(std::function<bool(KeyEvent& key)> player);
 
 // Keys by name, one step each: "Up Down Left Right Enter Esc Space Tab
 // Backspace PgUp PgDn", a single character for itself ("y", "5"), and
