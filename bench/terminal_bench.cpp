@@ -195,4 +195,4 @@ BENCHMARK(TitleIdle)->Iterations(1)->UseManualTime()->Unit(benchmark::kSecond);
 BENCHMARK(RoomMove)->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(EscapeKey)->Iterations(10)->UseManualTime()->Unit(benchmark::kMillisecond);
 
-BENCHMARK_MAIN();
+

@@ -89,6 +89,60 @@ key y
 wait_for "DAY:    2"
 wait_for " LIBRARY:"
 
+# Fly to sector I, fire the Ion Cannon once, end the day, read the report.
+key Up
+key Left
+key Enter
+wait_for "Navigate Mothership"
+key Down
+key Enter
+wait_for "Mothership's Destination"
+key Enter
+wait_for "Fuel Req: 10,000"
+key Escape
+key Escape
+wait_for " NAVIGATION:"
+key Right
+key Down
+key Enter
+wait_for "End Turn Factor 6"
+key Down
+key Enter
+wait_for "End Day?"
+key y
+wait_for "DAY:    3"
+wait_for "FUEL: 140,000"
+key Up
+key Left
+key Enter
+wait_for "Super Ion Cannon Control"
+key Down
+key Down
+key Down
+key Enter
+wait_for "Known Enemy Pop:"
+key Enter
+wait_for "Fire Ion Cannon?"
+key y
+wait_for "<<FIRE COMPLETED>>" 5
+key x
+wait_for "FUEL: 90,000"
+key Escape
+key Escape
+key Right
+key Down
+key Enter
+wait_for "End Turn Factor 6"
+key Down
+key Enter
+wait_for "End Day?"
+key y
+wait_for "Good Morning captain, I have 1 message for you."
+wait_for "A SubSector of an unknown land type in Sector I has been leveled by"
+wait_for "your Ion Cannon. Whatever was there before isn't there now."
+key Escape
+wait_for "DAY:    4"
+
 # Ctrl+C ends the program at once and leaves the terminal as it was.
 key C-c
 ended 1 || fail "Ctrl+C did not end the game within a second"
