@@ -34,11 +34,12 @@ class Mothership {
   std::int32_t cargoUsed() const;
   std::int32_t dockSpaceUsed() const;
 
+  // A store that would pass the largest number it can hold stays there.
   void addFood(std::int32_t amount) { food_ += static_cast<std::uint32_t>(amount); }
-  void addFuel(std::int32_t amount) { fuel_ += amount; }
-  void addMaterials(std::int32_t amount) { materials_ += amount; }
-  void addArtifacts(std::int32_t amount) { artifacts_ += amount; }
-  void addCapsules(std::int32_t amount) { readyCapsules_ += amount; }
+  void addFuel(std::int32_t amount) { fuel_ = saturatingAdd(fuel_, amount); }
+  void addMaterials(std::int32_t amount) { materials_ = saturatingAdd(materials_, amount); }
+  void addArtifacts(std::int32_t amount) { artifacts_ = saturatingAdd(artifacts_, amount); }
+  void addCapsules(std::int32_t amount) { readyCapsules_ = saturatingAdd(readyCapsules_, amount); }
   void setFood(std::uint32_t amount) { food_ = amount; }
   void setFuel(std::int32_t amount) { fuel_ = amount; }
   void setMaterials(std::int32_t amount) { materials_ = amount; }
@@ -84,6 +85,13 @@ class Mothership {
   void reset();
 
  private:
+  static std::int32_t saturatingAdd(std::int32_t value, std::int32_t amount) {
+    std::int64_t sum = static_cast<std::int64_t>(value) + amount;
+    if (sum > INT32_MAX) return INT32_MAX;
+    if (sum < INT32_MIN) return INT32_MIN;
+    return static_cast<std::int32_t>(sum);
+  }
+
   std::uint32_t food_ = 1000;
   std::int32_t fuel_ = 150000;
   std::int32_t materials_ = 10000;
