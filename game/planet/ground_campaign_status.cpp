@@ -26,13 +26,6 @@ void drawPanel(int cursor) {
   Console::putText(sector.bunker().isBuilt() ? "Yes" : "No ", 26, 20, 14);
 }
 
-void drawAllTerrain() {
-  for (int n = 1; n <= kSectorCount; ++n) {
-    const Sector& s = thePlanet().sector(n);
-    drawSectorTerrain(n, kMapColumn + 1 + 8 * s.column(), kMapRow + 1 + 4 * s.row());
-  }
-}
-
 }  // namespace
 
 int groundCursorAfter(int sector, int virtualKey) {
@@ -45,16 +38,6 @@ int groundCursorAfter(int sector, int virtualKey) {
     case kKeyUp: return (index + kSectorCount - kMapColumns) % kSectorCount + 1;
     case kKeyDown: return (index + kMapColumns) % kSectorCount + 1;
     default: return sector;
-  }
-}
-
-int subSectorCursorAfter(int k, int virtualKey) {
-  switch (virtualKey) {
-    case kKeyLeft: return k / 4 * 4 + (k + 3) % 4;
-    case kKeyRight: return k / 4 * 4 + (k + 1) % 4;
-    case kKeyUp: return (k + 12) % 16;
-    case kKeyDown: return (k + 4) % 16;
-    default: return k;
   }
 }
 
@@ -71,7 +54,7 @@ void runGroundCampaignStatus() {
   for (;;) {
     drawPanel(cursor);
     if (terrainStale) {
-      drawAllTerrain();
+      drawMapTerrain(kMapColumn, kMapRow);
       terrainStale = false;
     }
     KeyEvent key = Console::readKey();
@@ -111,9 +94,7 @@ void runGroundCampaignStatus() {
 
 void runSectorView(int sector) {
   drawFrame(kWarFrameColour, false);
-  drawSubSectorGrid(kSectorViewColumn, kSectorViewRow, kBorderAtRest);
-  drawSubSectorCell(0, kSectorViewColumn, kSectorViewRow, kBorderLit);
-  drawSectorViewTiles(sector);
+  drawSectorView(sector);
   Bunker& bunker = thePlanet().sector(sector).bunker();
   if (bunker.isBuilt() && bunker.getSubSector() >= 0) {
     // The bunker's own ground is known; its mark goes on the tile as it is.
@@ -125,17 +106,8 @@ void runSectorView(int sector) {
   for (;;) {
     drawSubSectorPanel(cursor, sector);
     KeyEvent key = Console::readKey();
-    if (key.isKey && key.keyDown) {
+    if (key.isKey && key.keyDown && !moveSubSectorCursor(cursor, key.virtualKey)) {
       switch (key.virtualKey) {
-        case kKeyLeft:
-        case kKeyRight:
-        case kKeyUp:
-        case kKeyDown: {
-          int next = subSectorCursorAfter(cursor, key.virtualKey);
-          moveSubSectorHighlight(kSectorViewColumn, kSectorViewRow, next, cursor);
-          cursor = next;
-          break;
-        }
         case kKeyEnter: {
           SubSector& s = thePlanet().subSector(sector, cursor);
           s.markMapped();

@@ -8,5 +8,3 @@ void runSectorView(int sector);
 // The sector reached from `sector` by an arrow on this map: rows and columns
 // wrap, and there is no orbit box.
 int groundCursorAfter(int sector, int virtualKey);
-// The sub-sector reached from `k` by an arrow in the sector view.
-int subSectorCursorAfter(int k, int virtualKey);

@@ -179,6 +179,13 @@ void drawSectorTerrain(int sector, int column, int row) {
   drawTerrainPlace(seen(15), false, column + 6, row + 2);
 }
 
+void drawMapTerrain(int column, int row) {
+  for (int n = 1; n <= kSectorCount; ++n) {
+    const Sector& s = thePlanet().sector(n);
+    drawSectorTerrain(n, column + 1 + 8 * s.column(), row + 1 + 4 * s.row());
+  }
+}
+
 void drawSectorLine(int column, int row, int labelColour, int valueColour, int place,
                     std::string_view orbitName) {
   Console::putText("Sector:", column, row, labelColour);
@@ -248,6 +255,26 @@ void drawKnownPop(int column, int row, int labelColour, int valueColour, int k, 
   } else {
     Console::putText("???", column + 17, row, valueColour);
   }
+}
+
+void drawSectorView(int sector) {
+  drawSubSectorGrid(kSectorViewColumn, kSectorViewRow, kBorderAtRest);
+  drawSubSectorCell(0, kSectorViewColumn, kSectorViewRow, kBorderLit);
+  drawSectorViewTiles(sector);
+}
+
+bool moveSubSectorCursor(int& cursor, int virtualKey) {
+  int next;
+  switch (virtualKey) {
+    case kKeyLeft: next = cursor / 4 * 4 + (cursor + 3) % 4; break;
+    case kKeyRight: next = cursor / 4 * 4 + (cursor + 1) % 4; break;
+    case kKeyUp: next = (cursor + 12) % 16; break;
+    case kKeyDown: next = (cursor + 4) % 16; break;
+    default: return false;
+  }
+  moveSubSectorHighlight(kSectorViewColumn, kSectorViewRow, next, cursor);
+  cursor = next;
+  return true;
 }
 
 void drawSubSectorPanel(int k, int sector) {

@@ -24,6 +24,8 @@ void moveSectorHighlight(int column, int row, int newSector, int oldSector);
 void moveOrbitHighlight(int column, int row, int newCursor, int oldCursor);
 // The known land of a sector, squeezed into the 7 x 3 inside of its cell.
 void drawSectorTerrain(int sector, int column, int row);
+// The known land of every sector, for a map at (column, row).
+void drawMapTerrain(int column, int row);
 // "Sector:" and the place: a sector's letter, or `orbitName` for 0 and the
 // orbit box.
 void drawSectorLine(int column, int row, int labelColour, int valueColour, int place,
@@ -44,3 +46,8 @@ void drawLandName(int column, int row, int labelColour, int valueColour, int k, 
 void drawKnownPop(int column, int row, int labelColour, int valueColour, int k, int sector);
 // The view's panel for sub-sector k: its land and its known people.
 void drawSubSectorPanel(int k, int sector);
+// The view of a sector: its grid with sub-sector 0 lit, and its tiles.
+void drawSectorView(int sector);
+// Moves the view's cursor on an arrow key, wrapping in rows and columns,
+// and moves its highlight; false for any other key.
+bool moveSubSectorCursor(int& cursor, int virtualKey);

@@ -8,7 +8,6 @@
 #include "game/console/console.h"
 #include "game/console/widgets.h"
 #include "game/messages/message_log.h"
-#include "game/planet/ground_campaign_status.h"
 #include "game/planet/ground_map.h"
 #include "game/planet/planet.h"
 #include "game/shell/endings.h"
@@ -242,24 +241,13 @@ void runIonCannonControl() {
     return;
   }
   const int sector = ship.currentSector();
-  drawSubSectorGrid(kSectorViewColumn, kSectorViewRow, kBorderAtRest);
-  drawSubSectorCell(0, kSectorViewColumn, kSectorViewRow, kBorderLit);
-  drawSectorViewTiles(sector);
+  drawSectorView(sector);
   int cursor = 0;
   for (;;) {
     drawSubSectorPanel(cursor, sector);
     KeyEvent key = Console::readKey();
-    if (key.isKey && key.keyDown) {
+    if (key.isKey && key.keyDown && !moveSubSectorCursor(cursor, key.virtualKey)) {
       switch (key.virtualKey) {
-        case kKeyLeft:
-        case kKeyRight:
-        case kKeyUp:
-        case kKeyDown: {
-          int next = subSectorCursorAfter(cursor, key.virtualKey);
-          moveSubSectorHighlight(kSectorViewColumn, kSectorViewRow, next, cursor);
-          cursor = next;
-          break;
-        }
         case kKeyEnter:
           if (askYesNo("Fire Ion Cannon?", 45, 10, 44)) {
             fireIonCannon(cursor);

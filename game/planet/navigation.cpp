@@ -46,10 +46,7 @@ void drawMarks(int place, int colour) {
 // entering and after each choice of destination.
 void drawNavigationState() {
   const Mothership& ship = theMothership();
-  for (int n = 1; n <= kSectorCount; ++n) {
-    const Sector& s = thePlanet().sector(n);
-    drawSectorTerrain(n, kMapColumn + 1 + 8 * s.column(), kMapRow + 1 + 4 * s.row());
-  }
+  drawMapTerrain(kMapColumn, kMapRow);
   drawMarks(0, 0);
   drawMarks(ship.destinationSector(), kDestinationColour);
   drawMarks(ship.currentSector(), kCurrentColour);
@@ -116,27 +113,14 @@ int navigateCursorAfter(int cursor, int virtualKey, int& cameThrough) {
     if (virtualKey == kKeyDown) return leftSide ? 3 : 4;
     return cursor;
   }
-  const int index = cursor - 1;
-  const int column = index % kMapColumns;
-  const int row = index / kMapColumns;
-  switch (virtualKey) {
-    case kKeyLeft: return row * kMapColumns + (column + kMapColumns - 1) % kMapColumns + 1;
-    case kKeyRight: return row * kMapColumns + (column + 1) % kMapColumns + 1;
-    case kKeyUp:
-      if (cursor == 3 || cursor == 4) {
-        cameThrough = cursor;
-        return kOrbitCursor;
-      }
-      return (index + kSectorCount - kMapColumns) % kSectorCount + 1;
-    case kKeyDown:
-      if (cursor == 21 || cursor == 22) {
-        cameThrough = cursor;
-        return kOrbitCursor;
-      }
-      return (index + kMapColumns) % kSectorCount + 1;
-    default:
-      return cursor;
+  // The orbit box lies above V and O and below D and G; elsewhere the map
+  // wraps as on the ground map.
+  if ((virtualKey == kKeyUp && (cursor == 3 || cursor == 4)) ||
+      (virtualKey == kKeyDown && (cursor == 21 || cursor == 22))) {
+    cameThrough = cursor;
+    return kOrbitCursor;
   }
+  return groundCursorAfter(cursor, virtualKey);
 }
 
 void runNavigateScreen() {

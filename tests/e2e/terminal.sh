@@ -27,6 +27,15 @@ wait_for() {  # text [seconds]
   fail "\"$1\" never came on the screen"
 }
 key() { t send-keys -t game "$@"; sleep 0.15; }
+keys() { for k in "$@"; do key "$k"; done; }
+# From the Library room of the ship map: end the day.
+end_day() {
+  key Enter
+  wait_for "End Turn Factor 6"
+  keys Down Enter
+  wait_for "End Day?"
+  key y
+}
 pane() { t display-message -p -t game "$1"; }
 
 # The game runs under a small shell that stays behind it, so that what the
@@ -80,46 +89,26 @@ t capture-pane -e -p -t game | sed -n 8p | grep -qE $'\e\\[(1;)?(33|93|38;5;11)m
 # End a day in the Library: the map comes back on day 2, Library selected.
 key Down
 wait_for " LIBRARY:"
-key Enter
-wait_for "End Turn Factor 6"
-key Down
-key Enter
-wait_for "End Day?"
-key y
+end_day
 wait_for "DAY:    2"
 wait_for " LIBRARY:"
 
 # Fly to sector I, fire the Ion Cannon once, end the day, read the report.
-key Up
-key Left
-key Enter
+keys Up Left Enter
 wait_for "Navigate Mothership"
-key Down
-key Enter
+keys Down Enter
 wait_for "Mothership's Destination"
 key Enter
 wait_for "Fuel Req: 10,000"
-key Escape
-key Escape
+keys Escape Escape
 wait_for " NAVIGATION:"
-key Right
-key Down
-key Enter
-wait_for "End Turn Factor 6"
-key Down
-key Enter
-wait_for "End Day?"
-key y
+keys Right Down
+end_day
 wait_for "DAY:    3"
 wait_for "FUEL: 140,000"
-key Up
-key Left
-key Enter
+keys Up Left Enter
 wait_for "Super Ion Cannon Control"
-key Down
-key Down
-key Down
-key Enter
+keys Down Down Down Enter
 wait_for "Known Enemy Pop:"
 key Enter
 wait_for "Fire Ion Cannon?"
@@ -127,16 +116,8 @@ key y
 wait_for "<<FIRE COMPLETED>>" 5
 key x
 wait_for "FUEL: 90,000"
-key Escape
-key Escape
-key Right
-key Down
-key Enter
-wait_for "End Turn Factor 6"
-key Down
-key Enter
-wait_for "End Day?"
-key y
+keys Escape Escape Right Down
+end_day
 wait_for "Good Morning captain, I have 1 message for you."
 wait_for "A SubSector of an unknown land type in Sector I has been leveled by"
 wait_for "your Ion Cannon. Whatever was there before isn't there now."

@@ -100,10 +100,15 @@ TEST_F(GroundMapTest, CursorsWrapWithoutAnOrbitBox) {
   EXPECT_EQ(groundCursorAfter(4, kKeyUp), 22);
   EXPECT_EQ(groundCursorAfter(1, kKeyLeft), 6);
   EXPECT_EQ(groundCursorAfter(12, kKeyRight), 7);
-  EXPECT_EQ(subSectorCursorAfter(0, kKeyUp), 12);
-  EXPECT_EQ(subSectorCursorAfter(15, kKeyDown), 3);
-  EXPECT_EQ(subSectorCursorAfter(7, kKeyRight), 4);
-  EXPECT_EQ(subSectorCursorAfter(4, kKeyLeft), 7);
+  auto after = [](int k, int key) {
+    moveSubSectorCursor(k, key);
+    return k;
+  };
+  EXPECT_EQ(after(0, kKeyUp), 12);
+  EXPECT_EQ(after(15, kKeyDown), 3);
+  EXPECT_EQ(after(7, kKeyRight), 4);
+  EXPECT_EQ(after(4, kKeyLeft), 7);
+  EXPECT_EQ(after(4, kKeyEnter), 4);
 }
 
 TEST_F(GroundMapTest, StatusShowsKnownPeopleAndBunkers) {
