@@ -64,7 +64,9 @@ class Game {
     std::string out;
     auto start = Clock::now();
     while (secondsSince(start) < 5.0) {
-      struct pollfd p {master_, POLLIN, 0};
+      struct pollfd p {
+        master_, POLLIN, 0
+      };
       if (poll(&p, 1, quietMs) <= 0) return out;
       char buffer[4096];
       ssize_t n = read(master_, buffer, sizeof buffer);
@@ -81,7 +83,9 @@ class Game {
     std::string out;
     auto start = Clock::now();
     while (secondsSince(start) < seconds) {
-      struct pollfd p {master_, POLLIN, 0};
+      struct pollfd p {
+        master_, POLLIN, 0
+      };
       if (poll(&p, 1, 50) <= 0) continue;
       char buffer[4096];
       ssize_t n = read(master_, buffer, sizeof buffer);
@@ -194,5 +198,3 @@ BENCHMARK(ShipMapIdle)->Iterations(1)->UseManualTime()->Unit(benchmark::kSecond)
 BENCHMARK(TitleIdle)->Iterations(1)->UseManualTime()->Unit(benchmark::kSecond);
 BENCHMARK(RoomMove)->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(EscapeKey)->Iterations(10)->UseManualTime()->Unit(benchmark::kMillisecond);
-
-

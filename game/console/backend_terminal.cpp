@@ -104,8 +104,8 @@ void installSignalHandlers() {
   action.sa_handler = onSignal;
   sigemptyset(&action.sa_mask);
   action.sa_flags = static_cast<int>(SA_RESETHAND);
-  for (int signalNumber : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGBUS, SIGFPE, SIGILL,
-                           SIGABRT}) {
+  for (int signalNumber :
+       {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT}) {
     sigaction(signalNumber, &action, nullptr);
   }
   signal(SIGPIPE, SIG_IGN);
@@ -113,7 +113,7 @@ void installSignalHandlers() {
 
 // The console palette has blue and red swapped against the ANSI order.
 short terminalColour(int consoleColour) {
-  static constexpr short kAnsi[8] = {COLOR_BLACK, COLOR_BLUE,    COLOR_GREEN, COLOR_CYAN,
+  static constexpr short kAnsi[8] = {COLOR_BLACK, COLOR_BLUE,    COLOR_GREEN,  COLOR_CYAN,
                                      COLOR_RED,   COLOR_MAGENTA, COLOR_YELLOW, COLOR_WHITE};
   short base = kAnsi[consoleColour & 7];
   return (consoleColour & 8) && colours16 ? static_cast<short>(base + 8) : base;
@@ -209,17 +209,28 @@ std::uint16_t virtualKeyOfCharacter(int character) {
     return static_cast<std::uint16_t>('0' + (at - kShiftedDigits));
   }
   switch (character) {
-    case ';': case ':': return 186;
-    case '=': case '+': return 187;
-    case ',': case '<': return 188;
-    case '-': case '_': return 189;
-    case '.': case '>': return 190;
-    case '/': case '?': return 191;
-    case '`': case '~': return 192;
-    case '[': case '{': return 219;
-    case '\\': case '|': return 220;
-    case ']': case '}': return 221;
-    case '\'': case '"': return 222;
+    case ';':
+    case ':': return 186;
+    case '=':
+    case '+': return 187;
+    case ',':
+    case '<': return 188;
+    case '-':
+    case '_': return 189;
+    case '.':
+    case '>': return 190;
+    case '/':
+    case '?': return 191;
+    case '`':
+    case '~': return 192;
+    case '[':
+    case '{': return 219;
+    case '\\':
+    case '|': return 220;
+    case ']':
+    case '}': return 221;
+    case '\'':
+    case '"': return 222;
     default: return 0;
   }
 }
@@ -251,9 +262,11 @@ bool translate(int status, wint_t input, KeyEvent& event) {
     }
   }
   switch (input) {
-    case '\r': case '\n': event = KeyEvent::enter(); return true;
+    case '\r':
+    case '\n': event = KeyEvent::enter(); return true;
     case 27: event = KeyEvent::escape(); return true;
-    case 127: case 8: event = KeyEvent::press(kKeyBackspace, 8); return true;
+    case 127:
+    case 8: event = KeyEvent::press(kKeyBackspace, 8); return true;
     case '\t': event = KeyEvent::press(kKeyTab, 9); return true;
     case ' ': event = KeyEvent::press(kKeySpace, ' '); return true;
     default: break;
@@ -294,7 +307,9 @@ int drain() {
 // poll, so a pass of a polling loop that finds nothing costs one system call.
 bool fetch(int waitMs) {
   static int emptyReads = 0;
-  struct pollfd input {STDIN_FILENO, POLLIN, 0};
+  struct pollfd input {
+    STDIN_FILENO, POLLIN, 0
+  };
   int ready = poll(&input, 1, waitMs);
   if (ready < 0) {
     if (errno == EINTR) drain();  // a signal: perhaps the terminal changed size
@@ -394,7 +409,9 @@ void flushKeys() {
 
 void sleep(int milliseconds) {
   if (milliseconds <= 0) return;
-  struct timespec wait {milliseconds / 1000, static_cast<long>(milliseconds % 1000) * 1000000L};
+  struct timespec wait {
+    milliseconds / 1000, static_cast<long>(milliseconds % 1000) * 1000000L
+  };
   while (nanosleep(&wait, &wait) != 0 && errno == EINTR) {
   }
 }

@@ -56,9 +56,7 @@ void place(int column, int row, int colour) {
 
 }  // namespace
 
-void open() {
-  backend::open();
-}
+void open() { backend::open(); }
 
 void setSize(int, int) {
   // The model is always 80 by 25; the backend shows it on whatever the

@@ -45,9 +45,22 @@ constexpr std::array<char32_t, 256> kUnicode = {
 // Stand-ins for codes 0-31 and 127-255, by rows of sixteen; 32-126 are
 // themselves (row 7 ends with 127, the house).
 constexpr char kAscii[16][17] = {
-    " oovo**.ooomfdd*", "><|!PS-|^v><L-^v", "", "", "", "", "", "",
-    "CueaaaaceeeiiiAA", "EaAooouuyOUcLYPf", "aiounNao?--%%!<>", ":%#|++++++|+++++",
-    "++++-++++++++=++", "+++++++++++#_[]\"", "aBGpSsutFOOd8fen", "=+><()/~o..Vn2* ",
+    " oovo**.ooomfdd*",
+    "><|!PS-|^v><L-^v",
+    "",
+    "",
+    "",
+    "",
+    "",
+    "",
+    "CueaaaaceeeiiiAA",
+    "EaAooouuyOUcLYPf",
+    "aiounNao?--%%!<>",
+    ":%#|++++++|+++++",
+    "++++-++++++++=++",
+    "+++++++++++#_[]\"",
+    "aBGpSsutFOOd8fen",
+    "=+><()/~o..Vn2* ",
 };
 
 }  // namespace

@@ -78,11 +78,8 @@ int run(const ListRow* rows, int column, int row, int width, int visibleRows, in
     handled = true;
     if (!key.keyDown) continue;
     switch (key.virtualKey) {
-      case kKeyEnter:
-        return singleStep ? kListStepEnter : sel;
-      case kKeyEscape:
-        unlight(box, sel, cursorRow);
-        return kListEscape;
+      case kKeyEnter: return singleStep ? kListStepEnter : sel;
+      case kKeyEscape: unlight(box, sel, cursorRow); return kListEscape;
       case kKeyUp:
         if (sel > 0) {
           --sel;
@@ -134,8 +131,7 @@ int run(const ListRow* rows, int column, int row, int width, int visibleRows, in
           return key.virtualKey == kKeyLeft ? kListLeft : kListRight;
         }
         break;
-      default:
-        break;
+      default: break;
     }
   }
 }

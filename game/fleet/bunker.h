@@ -31,7 +31,7 @@ class Bunker {
 
  private:
   std::int32_t food_ = 0;
-  std::int32_t fuel_ = 0;       // nothing changes it
+  std::int32_t fuel_ = 0;  // nothing changes it
   std::int32_t materials_ = 0;
   std::int32_t artifacts_ = 0;  // nothing changes it
   bool built_ = false;

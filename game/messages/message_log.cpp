@@ -29,8 +29,10 @@ const Message* MessageLog::at(std::int32_t index) const {
 int messageColour(std::int32_t priority) {
   switch (priority) {
     case 0: return 5;
-    case 1: case 2: return 3;
-    case 3: case 4: return 10;
+    case 1:
+    case 2: return 3;
+    case 3:
+    case 4: return 10;
     case 5: return 14;
     case 6: return 12;
     default: return 240;

@@ -81,11 +81,8 @@ void runGroundCampaignStatus() {
           for (int k = 0; k < kSubSectorCount; ++k) thePlanet().subSector(cursor, k).markMapped();
           terrainStale = true;
           break;
-        case kKeyEscape:
-          Console::flushKeys();
-          return;
-        default:
-          break;
+        case kKeyEscape: Console::flushKeys(); return;
+        default: break;
       }
     }
     Console::flushKeys();
@@ -114,11 +111,8 @@ void runSectorView(int sector) {
           drawLandTile(s.landType(), tileColumn(cursor), tileRow(cursor));
           break;
         }
-        case kKeyEscape:
-          Console::flushKeys();
-          return;
-        default:
-          break;
+        case kKeyEscape: Console::flushKeys(); return;
+        default: break;
       }
     }
     Console::flushKeys();

@@ -220,7 +220,8 @@ void drawLandTile(int landType, int column, int row) {
     // The wasteland seethes: new colours at every drawing.
     static constexpr int kColours[7] = {112, 96, 118, 106, 112, 96, 118};
     for (int y = 0; y < 4; ++y) {
-      for (int x = 0; x < 9; ++x) Console::putChar(178, column + x, row + y, kColours[gameRand() % 7]);
+      for (int x = 0; x < 9; ++x)
+        Console::putChar(178, column + x, row + y, kColours[gameRand() % 7]);
     }
   } else {
     Console::putText(kBadLand, column, row, 14);

@@ -36,7 +36,8 @@ const Picture& sceneFor(int land) {
     case kMountains: return kMountainScene;
     case kDesert: return kDesertScene;
     case kNuclearWasteland: return kWastelandScene;
-    case kRubble: case kRuins: return kRubbleScene;
+    case kRubble:
+    case kRuins: return kRubbleScene;
     default: return kFarmScene;
   }
 }
@@ -52,7 +53,8 @@ ShotNews newsFor(int land, bool mapped) {
             " has been leveled by your Ion Cannon. Whatever was there before isn't there now."};
   }
   switch (land) {
-    case kFarmLand: case kFarmLandStrewn:
+    case kFarmLand:
+    case kFarmLandStrewn:
       return {"A Farming Region in Sector ",
               " has been eradicated by your \"Slash and Burn\" Ion Cannon techniques."};
     case kCity: return {"A City in Sector ", " has been decimated by your glorious Ion Cannon."};
@@ -60,9 +62,11 @@ ShotNews newsFor(int land, bool mapped) {
       return {"A Military Base in Sector ",
               " is now a distant memory, all thanks to the Ion Cannon."};
     case kMountains:
-      return {"A Mountain Region in Sector ", " has been flattened by your destructive Ion Cannon."};
+      return {"A Mountain Region in Sector ",
+              " has been flattened by your destructive Ion Cannon."};
     case kDesert:
-      return {"A Desert Region in Sector ", " has been destroyed by your accurate Ion Cannon skills."};
+      return {"A Desert Region in Sector ",
+              " has been destroyed by your accurate Ion Cannon skills."};
     case kNuclearWasteland:
       return {"The Radioactive Elements in a Nuclear Wasteland in Sector ",
               " have been obliterated by the environmentally friendly Ion Cannon."};
@@ -265,11 +269,8 @@ void runIonCannonControl() {
           ship.addFuel(kHiddenFuel);
           refreshFuel(kWarFrameColour);
           break;
-        case kKeyEscape:
-          Console::flushKeys();
-          return;
-        default:
-          break;
+        case kKeyEscape: Console::flushKeys(); return;
+        default: break;
       }
     }
     Console::flushKeys();

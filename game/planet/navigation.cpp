@@ -100,8 +100,8 @@ int travelFuel(int from, int to) {
 void drawTravelFigures(int column, int row, int place) {
   const int from = theMothership().currentSector();
   Console::putText("ETA: ", column, row, 15);
-  Console::putText(leftAlignNumber(formatNumber(travelDays(from, place), 1, false), 1),
-                   column + 5, row, 14);
+  Console::putText(leftAlignNumber(formatNumber(travelDays(from, place), 1, false), 1), column + 5,
+                   row, 14);
   Console::putText("Fuel Req: ", column, row + 1, 15);
   Console::putText(leftAlignedNumber(travelFuel(from, place), 7), column + 10, row + 1, 14);
 }
@@ -187,6 +187,8 @@ void Mothership::moveOneDay() {
     return at;
   };
   currentSector_ = static_cast<std::int32_t>(
-      thePlanet().sectorAt(toward(from.row(), to.row()), toward(from.column(), to.column())).number());
+      thePlanet()
+          .sectorAt(toward(from.row(), to.row()), toward(from.column(), to.column()))
+          .number());
   chargeFuel(step * kStepFuel);
 }

@@ -6,10 +6,10 @@
 // between orbit and any sector is one day), and pays for it in fuel.
 #pragma once
 
-inline constexpr int kOrbitTripFuel = 10000;   // orbit to a sector or back
-inline constexpr int kStepFuel = 1000;         // a step between sectors
-inline constexpr int kHoverFuel = 100;         // a day over a sector
-inline constexpr int kShieldFuel = 200;        // a day with the shield on
+inline constexpr int kOrbitTripFuel = 10000;  // orbit to a sector or back
+inline constexpr int kStepFuel = 1000;        // a step between sectors
+inline constexpr int kHoverFuel = 100;        // a day over a sector
+inline constexpr int kShieldFuel = 200;       // a day with the shield on
 
 void runNavigationDeck();
 void runNavigateScreen();

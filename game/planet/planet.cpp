@@ -54,7 +54,8 @@ void Sector::setUp(std::uint32_t number, char letter, double base, std::string_v
     const int code = s.landType();
     double factor = 1.0;
     if (code >= kFarmLand && code <= kDesert) {
-      s.addPopulation(static_cast<std::int32_t>(std::trunc(kShare[code] * base * kPopulationScale / counts[code])));
+      s.addPopulation(static_cast<std::int32_t>(
+          std::trunc(kShare[code] * base * kPopulationScale / counts[code])));
     }
     if (code == kCity) factor = kCityStructureFactor;
     if (code == kMilitaryBase) {
@@ -86,7 +87,8 @@ double Planet::enemyTotal() const {
 
 std::string_view landName(std::int32_t code) {
   switch (code) {
-    case kFarmLand: case kFarmLandStrewn: return "Farm Land";
+    case kFarmLand:
+    case kFarmLandStrewn: return "Farm Land";
     case kCity: return "City";
     case kMilitaryBase: return "Military Base";
     case kMountains: return "Mountains";

@@ -80,14 +80,13 @@ constexpr EndScreen kVictory{{{1, 1, 12, "You destroyed America!"},
                              0,
                              0};
 
-constexpr EndScreen kFamine{
-    {{1, 1, 12, "Carolla says, \"Captain, we are running low on food.\""},
-     {0, 21, 14, "Hurry Find some food... Or prepare to die"},
-     {0, 22, 14, "at the hands of your crew! They'll turn you to Stew!"}},
-    3,
-    drawCarollaPortrait,
-    19,
-    2};
+constexpr EndScreen kFamine{{{1, 1, 12, "Carolla says, \"Captain, we are running low on food.\""},
+                             {0, 21, 14, "Hurry Find some food... Or prepare to die"},
+                             {0, 22, 14, "at the hands of your crew! They'll turn you to Stew!"}},
+                            3,
+                            drawCarollaPortrait,
+                            19,
+                            2};
 
 void show(const EndScreen& screen) {
   Console::setColour(15);
@@ -103,9 +102,7 @@ void show(const EndScreen& screen) {
 
 }  // namespace
 
-void showMutinyEnding() {
-  show(theMothership().food() == 0 ? kMutinyEaten : kMutinyInHisSleep);
-}
+void showMutinyEnding() { show(theMothership().food() == 0 ? kMutinyEaten : kMutinyInHisSleep); }
 void showFuelEnding() { show(kOutOfFuel); }
 void showVictoryEnding() { show(kVictory); }
 void showFamineWarning() { show(kFamine); }

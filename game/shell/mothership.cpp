@@ -13,8 +13,9 @@ std::int32_t Mothership::cargoUsed() const {
 std::int32_t Mothership::dockSpaceUsed() const { return 40000 * readyCapsules_; }
 
 bool Mothership::addAdvisor(int id) {
-  static constexpr const char* kNames[9] = {"Carolla", "Emerson", "Pinsky",  "Scruggs", "Blobby the Blob",
-                                            "Hyde",    "Kryptal", "Zorblax", "Quenta"};
+  static constexpr const char* kNames[9] = {"Carolla", "Emerson",         "Pinsky",
+                                            "Scruggs", "Blobby the Blob", "Hyde",
+                                            "Kryptal", "Zorblax",         "Quenta"};
   if (static_cast<int>(advisors_.size()) >= kAdvisorCapacity) return false;
   Advisor advisor;
   advisor.name.assign(id >= 0 && id < 9 ? kNames[id] : "");

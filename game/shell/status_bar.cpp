@@ -40,4 +40,6 @@ void drawStatusBar(int colour) {
 
 void refreshFuel(int colour) { putStore(theMothership().fuel(), 12, colour); }
 void refreshMaterials(int colour) { putStore(theMothership().materials(), 41, colour); }
-void refreshFood(int colour) { putStore(static_cast<std::int32_t>(theMothership().food()), 65, colour); }
+void refreshFood(int colour) {
+  putStore(static_cast<std::int32_t>(theMothership().food()), 65, colour);
+}

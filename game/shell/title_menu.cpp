@@ -19,8 +19,8 @@ constexpr int kBarColour = 12;
 constexpr int kSelectedColour = 79;
 constexpr int kEntryColour = 78;
 constexpr int kFrameColour = 8;
-constexpr int kBarStart = 3;      // every left bar starts here
-constexpr int kMirrorSum = 41;    // the right bar mirrors the left: column c faces 41 - c
+constexpr int kBarStart = 3;    // every left bar starts here
+constexpr int kMirrorSum = 41;  // the right bar mirrors the left: column c faces 41 - c
 constexpr int kCreditsColumn = 43;
 constexpr int kCreditsRow = 15;
 

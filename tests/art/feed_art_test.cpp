@@ -1,10 +1,10 @@
-#include "game/art/ion_feed.h"
-#include "game/art/land_tiles.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
+
+#include "game/art/ion_feed.h"
+#include "game/art/land_tiles.h"
 
 namespace {
 
@@ -12,7 +12,8 @@ unsigned char code(const Picture& p, int x, int y) { return pictureRow(p, y)[x];
 bool drawn(const Picture& p, int x, int y) {
   return x >= 0 && y >= 0 && x < p.width && y < p.height && pictureColour(p, x, y, 0) >= 0;
 }
-template <class Check> void eachCell(const Picture& p, Check check) {
+template <class Check>
+void eachCell(const Picture& p, Check check) {
   for (int y = 0; y < p.height; ++y) {
     for (int x = 0; x < p.width; ++x) check(x, y);
   }
@@ -28,17 +29,26 @@ TEST(FeedArt, ColouredPicturesAreSoundSizedAndInTheirColours) {
     bool seeThrough = false;  // only the blasts leave cells undrawn
   };
   const Case cases[] = {
-      {kLandTiles[0], 9, 4, {32, 36, 38}}, {kLandTiles[1], 9, 4, {112, 120, 126, 127}},
-      {kLandTiles[2], 9, 4, {96, 98, 111, 112, 120}}, {kLandTiles[3], 9, 4, {2, 7, 114, 120, 127}},
-      {kLandTiles[4], 9, 4, {96, 108, 110}}, {kLandTiles[5], 9, 4, {32, 36, 38}},
-      {kLandTiles[6], 9, 4, {104, 112}}, {kUnknownTile, 9, 4, {14}},
-      {kFeedFrame, 31, 17, {14, 15}}, {kEmptyFrame, 31, 17, {14}},
+      {kLandTiles[0], 9, 4, {32, 36, 38}},
+      {kLandTiles[1], 9, 4, {112, 120, 126, 127}},
+      {kLandTiles[2], 9, 4, {96, 98, 111, 112, 120}},
+      {kLandTiles[3], 9, 4, {2, 7, 114, 120, 127}},
+      {kLandTiles[4], 9, 4, {96, 108, 110}},
+      {kLandTiles[5], 9, 4, {32, 36, 38}},
+      {kLandTiles[6], 9, 4, {104, 112}},
+      {kUnknownTile, 9, 4, {14}},
+      {kFeedFrame, 31, 17, {14, 15}},
+      {kEmptyFrame, 31, 17, {14}},
       {kCityScene, 29, 6, {1, 2, 4, 6, 8, 14, 46, 96, 112, 120, 126, 135}},
-      {kMountainScene, 29, 6, {7, 10, 15, 19, 32, 33, 42, 46}}, {kDesertScene, 29, 6, {2, 110}},
+      {kMountainScene, 29, 6, {7, 10, 15, 19, 32, 33, 42, 46}},
+      {kDesertScene, 29, 6, {2, 110}},
       {kBaseScene, 29, 6, {1, 6, 7, 14, 15, 120, 135}},
-      {kFarmScene, 29, 6, {1, 4, 6, 14, 15, 78, 135}}, {kRubbleScene, 29, 6, {8, 15, 135}},
-      {kWastelandScene, 29, 6, {2, 8, 15, 42, 135}}, {kAftermath, 29, 6, {4, 8, 14, 15}},
-      {kBlastA, 22, 5, {1, 15, 19, 59}, true}, {kBlastB, 26, 5, {1, 15, 19, 59}, true},
+      {kFarmScene, 29, 6, {1, 4, 6, 14, 15, 78, 135}},
+      {kRubbleScene, 29, 6, {8, 15, 135}},
+      {kWastelandScene, 29, 6, {2, 8, 15, 42, 135}},
+      {kAftermath, 29, 6, {4, 8, 14, 15}},
+      {kBlastA, 22, 5, {1, 15, 19, 59}, true},
+      {kBlastB, 26, 5, {1, 15, 19, 59}, true},
       {kBlastC, 29, 6, {1, 15, 19, 27, 59}, true},
   };
   for (const Case& c : cases) {
@@ -62,7 +72,8 @@ TEST(FeedArt, FrameIsAShadeBorderAroundASkyWithStarsAtTheTop) {
     if (border) {
       EXPECT_EQ(c * 1000 + pictureColour(kFeedFrame, x, y, 0), 176 * 1000 + 14) << x << "," << y;
     } else if (c != ' ') {
-      EXPECT_TRUE(std::string("\xFA\xF9*.").find(c) != std::string::npos && y <= 8) << x << "," << y;
+      EXPECT_TRUE(std::string("\xFA\xF9*.").find(c) != std::string::npos && y <= 8)
+          << x << "," << y;
       ++stars;
     }
   });
@@ -121,7 +132,8 @@ TEST(FeedArt, TileStagesGrowFromTheMiddle) {
     FeedPlace was = kTileStagePlaces[i - 1];
     eachCell(kTileStages[i - 1], [&](int x, int y) {
       EXPECT_EQ(code(p, x + was.column - at.column, y + was.row - at.row),
-                code(kTileStages[i - 1], x, y)) << i;
+                code(kTileStages[i - 1], x, y))
+          << i;
     });
   }
 }

@@ -1,10 +1,10 @@
-#include "game/art/portraits.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
 #include <vector>
+
+#include "game/art/portraits.h"
 
 TEST(PortraitsArt, SoundPicturesOfTheFigureInItsOwnColours) {
   const struct {
@@ -37,7 +37,8 @@ TEST(PortraitsArt, KryptalHasOrnamentsAtBothEndsOfRowThree) {
   std::string row = pictureRow(kKryptalPortrait, 3);
   ASSERT_EQ(row.size(), 40u);
   auto ornament = [&](int x) {
-    return static_cast<unsigned char>(row[x]) == 236 && pictureColour(kKryptalPortrait, x, 3, 0) >= 0;
+    return static_cast<unsigned char>(row[x]) == 236 &&
+           pictureColour(kKryptalPortrait, x, 3, 0) >= 0;
   };
   EXPECT_TRUE(ornament(0) || ornament(1) || ornament(2));
   EXPECT_TRUE(ornament(37) || ornament(38) || ornament(39));

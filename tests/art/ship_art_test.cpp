@@ -1,5 +1,3 @@
-#include "game/art/ship.h"
-
 #include <gtest/gtest.h>
 
 #include <cctype>
@@ -8,9 +6,11 @@
 #include <utility>
 #include <vector>
 
+#include "game/art/ship.h"
+
 namespace {
 
-using Cell = std::pair<int, int>;  // column, row
+using Cell = std::pair<int, int>;                           // column, row
 const Cell kSteps[4] = {{0, -1}, {0, 1}, {-1, 0}, {1, 0}};  // up, down, left, right
 Cell step(Cell c, int d) { return {c.first + kSteps[d].first, c.second + kSteps[d].second}; }
 
@@ -154,7 +154,8 @@ TEST(ShipArt, CorridorsJoinNeighbouringRooms) {
     }
     return reached;
   };
-  const std::pair<int, int> pairs[] = {{0, 2}, {2, 4}, {2, 1}, {2, 5}, {1, 3}, {3, 6}, {5, 6}, {1, 7}};
+  const std::pair<int, int> pairs[] = {{0, 2}, {2, 4}, {2, 1}, {2, 5},
+                                       {1, 3}, {3, 6}, {5, 6}, {1, 7}};
   for (auto [from, to] : pairs) {
     std::set<Cell> corridor = spread(roomCells(from)), target = roomCells(to);
     corridor.merge(spread(corridor));

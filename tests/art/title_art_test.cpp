@@ -1,9 +1,9 @@
-#include "game/art/title.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "game/art/title.h"
 
 namespace {
 

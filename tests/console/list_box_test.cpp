@@ -30,9 +30,8 @@ class ListBoxTest : public ::testing::Test {
     scripted::addKeys(keys);
     int result = -99;
     scripted::run([&] {
-      result = ListBox::run(rows.data(), kColumn, kRow, kWidth, kBox,
-                            static_cast<int>(rows.size()), leftRightLeaves, state, false,
-                            singleStep);
+      result = ListBox::run(rows.data(), kColumn, kRow, kWidth, kBox, static_cast<int>(rows.size()),
+                            leftRightLeaves, state, false, singleStep);
     });
     return result;
   }

@@ -135,7 +135,8 @@ TEST_F(IonCannonTest, TheTargetsTileBurnsFromItsMiddle) {
   scripted::watchSleeps([&](int) {
     int burnt = 0;
     for (int y = 0; y < 4; ++y) {
-      for (int x = 0; x < 9; ++x) burnt += scripted::colourAt(tileColumn(0) + x, tileRow(0) + y) == 112;
+      for (int x = 0; x < 9; ++x)
+        burnt += scripted::colourAt(tileColumn(0) + x, tileRow(0) + y) == 112;
     }
     stageCells.push_back(burnt);
   });

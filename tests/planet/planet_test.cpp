@@ -85,7 +85,8 @@ TEST_F(PlanetTest, KnownEnemyCountsOnlyWhatHasBeenSeen) {
   sector.subSector(0).markMapped();
   EXPECT_EQ(sector.knownEnemy(), 312938 + 10100);
   sector.subSector(0).addPopulation(-400000);
-  EXPECT_EQ(sector.knownEnemy(), 312938 + 10100 - 400000) << "an over-bombed sum counts with its sign";
+  EXPECT_EQ(sector.knownEnemy(), 312938 + 10100 - 400000)
+      << "an over-bombed sum counts with its sign";
 }
 
 TEST_F(PlanetTest, PlacesOnTheGrid) {

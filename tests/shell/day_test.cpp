@@ -45,8 +45,10 @@ TEST_F(DayTest, TheSuperFreightersCalendar) {
     EXPECT_EQ(globals().day, day);
   }
   EXPECT_TRUE(byDay[27].empty());
-  EXPECT_EQ(byDay[28], std::vector<std::string>{"The Super Freighter will arrive in orbit in 3 days!"});
-  EXPECT_EQ(byDay[30], std::vector<std::string>{"The Super Freighter will arrive in orbit tomorrow!"});
+  EXPECT_EQ(byDay[28],
+            std::vector<std::string>{"The Super Freighter will arrive in orbit in 3 days!"});
+  EXPECT_EQ(byDay[30],
+            std::vector<std::string>{"The Super Freighter will arrive in orbit tomorrow!"});
   EXPECT_EQ(byDay[31], std::vector<std::string>{"The Super Freighter has arrived in orbit!"});
   EXPECT_EQ(byDay[32], std::vector<std::string>{"The Super Freighter is currently in orbit!"});
   EXPECT_EQ(byDay[36], std::vector<std::string>{"The Super Freighter is currently in orbit!"});

@@ -79,13 +79,15 @@ TEST_F(TitleMenuTest, TheSweepRunsOutToTheLabelAndBackInMirror) {
 TEST_F(TitleMenuTest, RunnersStepEveryThirtyPasses) {
   play("Idle:28");  // the 29th pass ends the script
   int litBefore = 0;
-  for (int c = 2; c <= 39; ++c) litBefore += scripted::codeAt(c, 24) == 249 || scripted::codeAt(c, 14) == 249;
+  for (int c = 2; c <= 39; ++c)
+    litBefore += scripted::codeAt(c, 24) == 249 || scripted::codeAt(c, 14) == 249;
   EXPECT_EQ(litBefore, 0);
   startFreshRun();
   play("Idle:29");
   int lit = 0;
   for (int r = 14; r <= 24; ++r) {
-    for (int c = 2; c <= 39; ++c) lit += scripted::codeAt(c, r) == 249 && scripted::colourAt(c, r) == 14;
+    for (int c = 2; c <= 39; ++c)
+      lit += scripted::codeAt(c, r) == 249 && scripted::colourAt(c, r) == 14;
   }
   EXPECT_EQ(lit, 1);
 }
@@ -106,7 +108,8 @@ TEST_F(TitleMenuTest, CreditsFollowTheFourthEntry) {
 }
 
 TEST_F(TitleMenuTest, ABurstOfKeysMovesTheSelectionOnce) {
-  scripted::addKeys({KeyEvent::arrow(kKeyDown), KeyEvent::arrow(kKeyDown), KeyEvent::arrow(kKeyDown)});
+  scripted::addKeys(
+      {KeyEvent::arrow(kKeyDown), KeyEvent::arrow(kKeyDown), KeyEvent::arrow(kKeyDown)});
   scripted::run(runTitleMenu);
   EXPECT_EQ(scripted::colourAt(16, 17), 79);
   EXPECT_EQ(scripted::colourAt(15, 19), 78);
