@@ -19,31 +19,20 @@ class GroundMapTest : public ::testing::Test {
   }
 };
 
-TEST_F(GroundMapTest, TheMapsBordersShareTheirEdges) {
+TEST_F(GroundMapTest, BordersOfTheMapTheOrbitBoxAndTheSectorView) {
   drawSectorMap(2, 1, 2, true, 15);
   EXPECT_EQ(scripted::textAt(2, 1, 10), "\xC9\xCD\xCD\xCD\xCD\xCD\xCD\xCD\xCB\xCD");
-  EXPECT_EQ(scripted::codeAt(50, 1), 187);
   EXPECT_EQ(scripted::textAt(2, 5, 10), "\xCC\xB5------\xE8-");
   EXPECT_EQ(scripted::textAt(42, 5, 9), "\xE8------\xC6\xB9");
-  EXPECT_EQ(scripted::codeAt(10, 2), 208) << "inner side, first row of the top row";
+  EXPECT_EQ(scripted::codeAt(10, 2), 208) << "an inner side starts with 208 in the top row";
   EXPECT_EQ(scripted::codeAt(10, 3), '|');
   EXPECT_EQ(scripted::codeAt(10, 16), 210);
-  EXPECT_EQ(scripted::codeAt(2, 16), 186);
-  EXPECT_EQ(scripted::textAt(2, 17, 3), "\xC8\xCD\xCD");
-  EXPECT_EQ(scripted::codeAt(6, 3), 'I');
   EXPECT_EQ(scripted::codeAt(46, 15), 'K');
-  EXPECT_EQ(scripted::codeAt(18, 18), 214);
   EXPECT_EQ(scripted::textAt(18, 19, 17), "\xBA O  R  B  I  T \xBA");
   EXPECT_EQ(scripted::codeAt(34, 20), 189);
-  EXPECT_EQ(scripted::colourAt(2, 1), 2);
-}
-
-TEST_F(GroundMapTest, TheSectorViewGrid) {
   drawSubSectorGrid(2, 1, 2);
   EXPECT_EQ(scripted::textAt(2, 6, 12), "\xCC\xB5--------\x0F-");
-  EXPECT_EQ(scripted::codeAt(12, 2), 208);
   EXPECT_EQ(scripted::codeAt(12, 20), 210);
-  EXPECT_EQ(scripted::codeAt(42, 21), 188);
   EXPECT_EQ(tileColumn(5), 13);
   EXPECT_EQ(tileRow(5), 7);
 }
@@ -53,22 +42,15 @@ TEST_F(GroundMapTest, TheMiddleRowOfTerrainShowsTheUpperSubSectorFirst) {
   drawSectorTerrain(1, 3, 2);
   EXPECT_EQ(scripted::textAt(7, 3, 2), "\x7F\x1E");
   EXPECT_EQ(scripted::colourAt(7, 3), 135);
+  EXPECT_EQ(scripted::codeAt(3, 2), ' ') << "unseen land is blank";
   sub(1, 6).markMapped();  // the Farm Land above it takes the place
-  drawSectorTerrain(1, 3, 2);
-  EXPECT_EQ(scripted::textAt(7, 3, 2), "\xB2\xB1");
-  EXPECT_EQ(scripted::colourAt(7, 3), 32);
   sub(1, 9).markMapped();  // a City, narrow at offset 2
   drawSectorTerrain(1, 3, 2);
-  EXPECT_EQ(scripted::codeAt(5, 3), 206);
-  EXPECT_EQ(scripted::codeAt(6, 3), ' ') << "offset 3 is left for the letter";
-  EXPECT_EQ(scripted::codeAt(3, 2), ' ') << "unseen land is blank";
-  sub(1, 3).markMapped();  // Desert, narrow at offset 6
-  drawSectorTerrain(1, 3, 2);
-  EXPECT_EQ(scripted::codeAt(9, 2), 19);
-  EXPECT_EQ(scripted::colourAt(9, 2), 104);
+  EXPECT_EQ(scripted::textAt(7, 3, 2), "\xB2\xB1");
+  EXPECT_EQ(scripted::textAt(5, 3, 2), "\xCE ") << "offset 3 is left for the letter";
 }
 
-TEST_F(GroundMapTest, LandNamesAndKnownPeople) {
+TEST_F(GroundMapTest, ThePanelShowsOnlyWhatIsKnown) {
   drawSubSectorPanel(0, 1);
   EXPECT_EQ(scripted::textAt(45, 2, 11), "Sector: ???");
   EXPECT_EQ(scripted::textAt(45, 3, 20), "Known Enemy Pop: ???");
@@ -76,28 +58,26 @@ TEST_F(GroundMapTest, LandNamesAndKnownPeople) {
   drawSubSectorPanel(0, 1);
   EXPECT_EQ(scripted::textAt(45, 2, 21), "Sector: Military Base");
   EXPECT_EQ(scripted::textAt(62, 3, 13), "323,038      ");
-  EXPECT_EQ(scripted::colourAt(62, 3), 14);
   sub(1, 0).addPopulation(-400000);
   drawSubSectorPanel(0, 1);
   EXPECT_EQ(scripted::textAt(62, 3, 13), std::string(13, ' ')) << "a negative sum shows blank";
 }
 
 TEST_F(GroundMapTest, TheWastelandIsDrawnAnewEachTime) {
+  auto colours = [] {
+    std::string row;
+    for (int x = 0; x < 9; ++x) row += static_cast<char>(scripted::colourAt(3 + x, 2));
+    return row;
+  };
   drawLandTile(kNuclearWasteland, 3, 2);
-  std::string first;
-  for (int x = 0; x < 9; ++x) first += static_cast<char>(scripted::colourAt(3 + x, 2));
-  bool differs = false;
-  for (int i = 0; i < 5 && !differs; ++i) {
-    drawLandTile(kNuclearWasteland, 3, 2);
-    for (int x = 0; x < 9; ++x) differs |= scripted::colourAt(3 + x, 2) != first[x];
-  }
-  EXPECT_TRUE(differs);
+  const std::string first = colours();
+  drawLandTile(kNuclearWasteland, 3, 2);
+  EXPECT_NE(colours(), first);
   EXPECT_EQ(scripted::codeAt(11, 5), 178);
 }
 
 TEST_F(GroundMapTest, CursorsWrapWithoutAnOrbitBox) {
   EXPECT_EQ(groundCursorAfter(22, kKeyDown), 4);
-  EXPECT_EQ(groundCursorAfter(4, kKeyUp), 22);
   EXPECT_EQ(groundCursorAfter(1, kKeyLeft), 6);
   EXPECT_EQ(groundCursorAfter(12, kKeyRight), 7);
   auto after = [](int k, int key) {
@@ -107,7 +87,6 @@ TEST_F(GroundMapTest, CursorsWrapWithoutAnOrbitBox) {
   EXPECT_EQ(after(0, kKeyUp), 12);
   EXPECT_EQ(after(15, kKeyDown), 3);
   EXPECT_EQ(after(7, kKeyRight), 4);
-  EXPECT_EQ(after(4, kKeyLeft), 7);
   EXPECT_EQ(after(4, kKeyEnter), 4);
 }
 
@@ -116,24 +95,19 @@ TEST_F(GroundMapTest, StatusShowsKnownPeopleAndBunkers) {
   EXPECT_FALSE(playStatus("Idle:1"));
   EXPECT_EQ(scripted::textAt(2, 18, 13), "Sector: I    ");
   EXPECT_EQ(scripted::textAt(26, 19, 13), "0            ");
-  EXPECT_EQ(scripted::textAt(26, 20, 3), "No ");
   EXPECT_EQ(scripted::colourAt(14, 3), 14) << "L has a bunker: a yellow letter";
-  EXPECT_EQ(scripted::colourAt(2, 1), 12) << "cell 1 lit";
   EXPECT_FALSE(playStatus("Right Tab"));
   EXPECT_EQ(scripted::textAt(26, 20, 3), "Yes");
   EXPECT_EQ(scripted::colourAt(14, 3), 15) << "white once the cursor has been on it";
   EXPECT_EQ(scripted::textAt(26, 19, 9), "1,596,282") << "Tab mapped all of L";
-  EXPECT_NE(scripted::codeAt(11, 2), ' ') << "its terrain is drawn";
+  EXPECT_NE(scripted::codeAt(11, 2), ' ') << "and its terrain is drawn";
 }
 
-TEST_F(GroundMapTest, EnterInTheSectorViewMapsWhatIsUnderTheCursor) {
+TEST_F(GroundMapTest, TheSectorViewMapsWhatIsUnderTheCursorAndShowsTheBunker) {
   EXPECT_TRUE(playStatus("Right Right Enter Enter Right Enter Esc Esc"));
   EXPECT_TRUE(sub(3, 0).mapped());
   EXPECT_TRUE(sub(3, 1).mapped());
   EXPECT_FALSE(sub(3, 2).mapped());
-}
-
-TEST_F(GroundMapTest, TheSectorViewShowsQuestionMarksAndTheBunkerMark) {
   Bunker& bunker = thePlanet().sector(5).bunker();
   bunker.setSubSector(6);
   bunker.markBuilt();
@@ -142,8 +116,7 @@ TEST_F(GroundMapTest, TheSectorViewShowsQuestionMarksAndTheBunkerMark) {
   EXPECT_TRUE(sub(5, 6).mapped());
   EXPECT_EQ(scripted::textAt(tileColumn(6) + 6, tileRow(6) + 2, 2), "\xF0\xF0");
   EXPECT_EQ(scripted::colourAt(tileColumn(6) + 6, tileRow(6) + 2), 79);
-  EXPECT_EQ(scripted::textAt(45, 2, 11), "Sector: ???");
-  EXPECT_EQ(scripted::colourAt(tileColumn(0), tileRow(0)), 14) << "the unknown tile";
+  EXPECT_EQ(scripted::colourAt(tileColumn(0), tileRow(0)), 14) << "an unknown tile";
 }
 
 }  // namespace
