@@ -47,7 +47,9 @@ bool refill(bool polling) {
   return true;
 }
 
-KeyEvent named(const std::string& name) {
+}  // namespace
+
+KeyEvent keyNamed(const std::string& name) {
   if (name == "Up") return KeyEvent::arrow(kKeyUp);
   if (name == "Down") return KeyEvent::arrow(kKeyDown);
   if (name == "Left") return KeyEvent::arrow(kKeyLeft);
@@ -66,8 +68,6 @@ KeyEvent named(const std::string& name) {
   }
   return KeyEvent::typed(name.empty() ? ' ' : name[0]);
 }
-
-}  // namespace
 
 void reset() {
   script.clear();
@@ -93,7 +93,7 @@ void addKeys(const std::string& names) {
     if (name.rfind("Idle:", 0) == 0) {
       addIdle(std::stoi(name.substr(5)));
     } else {
-      addKey(named(name));
+      addKey(keyNamed(name));
     }
   }
 }

@@ -48,6 +48,8 @@ void setPlayer(std::function<bool(KeyEvent& key)> player);
 // Backspace PgUp PgDn", a single character for itself ("y", "5"), and
 // "Release" for a key release. "Idle:N" adds N idle passes.
 void addKeys(const std::string& names);
+// The key of one such name.
+KeyEvent keyNamed(const std::string& name);
 
 // Runs `body` until it returns or the script ends; true if the script
 // ended it.

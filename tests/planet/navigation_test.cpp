@@ -25,9 +25,15 @@ class NavigationTest : public ::testing::Test {
 TEST_F(NavigationTest, TheCursorPassesThroughTheOrbitBoxAndLeavesByItsSide) {
   int through = 0;
   const int steps[][3] = {
-      {3, kKeyUp, kOrbitCursor},   {kOrbitCursor, kKeyUp, 21},  {kOrbitCursor, kKeyDown, 3},
-      {22, kKeyDown, kOrbitCursor}, {kOrbitCursor, kKeyDown, 4}, {kOrbitCursor, kKeyUp, 22},
-      {kOrbitCursor, kKeyLeft, kOrbitCursor}, {1, kKeyUp, 19},  {24, kKeyDown, 6},
+      {3, kKeyUp, kOrbitCursor},
+      {kOrbitCursor, kKeyUp, 21},
+      {kOrbitCursor, kKeyDown, 3},
+      {22, kKeyDown, kOrbitCursor},
+      {kOrbitCursor, kKeyDown, 4},
+      {kOrbitCursor, kKeyUp, 22},
+      {kOrbitCursor, kKeyLeft, kOrbitCursor},
+      {1, kKeyUp, 19},
+      {24, kKeyDown, 6},
       {7, kKeyLeft, 12},
   };
   for (const auto& step : steps) {

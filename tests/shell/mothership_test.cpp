@@ -19,9 +19,6 @@ TEST_F(MothershipTest, StartsWithItsStoresAndNineAdvisors) {
   EXPECT_EQ(ship.advisors()[6].name.view(), "Kryptal");
   EXPECT_EQ(ship.cargoUsed(), 1000 + 150000 + 10000);
   EXPECT_EQ(ship.dockSpaceUsed(), 80000) << "two capsules";
-}
-
-TEST_F(MothershipTest, EatingNeverGoesBelowZero) {
   ship.setFood(100);
   ship.eatFood();  // nine advisors and the captain
   EXPECT_EQ(ship.food(), 90u);
@@ -57,14 +54,6 @@ TEST_F(MothershipTest, ChargesStopAtZeroAndAddsAtTheTop) {
   ship.setFuel(INT32_MAX - 5);
   ship.addFuel(100000);
   EXPECT_EQ(ship.fuel(), INT32_MAX);
-}
-
-TEST_F(MothershipTest, TheFreighterComesEveryThirtySevenDays) {
-  globals().freighterCountdown = 1;
-  for (int expected : {0, -1, -2, -3, -4, -5, -6, 30}) {
-    advanceFreighter();
-    EXPECT_EQ(globals().freighterCountdown, expected);
-  }
 }
 
 TEST_F(MothershipTest, ANewGameResetsTheShipButKeepsTheScheduleAndTheLand) {
