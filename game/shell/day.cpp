@@ -90,6 +90,8 @@ void runDay() {
   warnOfFamine(ship);
   ship.updateMorale();
   postMoraleNews(ship, log);
+  // The bunkers' meals, the craft's flights and missions, the building of
+  // bunkers and the raids take their turns here, before the ship moves.
   ship.moveOneDay();
   postFuelNews(ship, log);
   testForTheEnd(ship);
