@@ -38,6 +38,7 @@ class IonCannonTest : public ::testing::Test {
 TEST_F(IonCannonTest, AShotKillsPeopleAndTroopsAndLeavesTheRest) {
   sub(5).markMapped();
   const double structures = sub(5).structures();
+  sub(5).addFighters(30);
   Bunker& bunker = thePlanet().sector(1).bunker();
   bunker.setSubSector(5);
   bunker.markBuilt();
@@ -46,6 +47,7 @@ TEST_F(IonCannonTest, AShotKillsPeopleAndTroopsAndLeavesTheRest) {
   EXPECT_EQ(sub(5).troops(), 0);
   EXPECT_EQ(sub(5).landType(), kRubble);
   EXPECT_EQ(sub(5).structures(), structures);
+  EXPECT_EQ(sub(5).fighters(), 30) << "fighters and buildings are left alone";
   EXPECT_TRUE(bunker.isBuilt()) << "a bunker stands unharmed";
   EXPECT_EQ(ship.fuel(), 100000);
   EXPECT_EQ(news(), "A City in Sector I has been decimated by your glorious Ion Cannon.");

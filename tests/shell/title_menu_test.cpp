@@ -86,6 +86,10 @@ TEST_F(TitleMenuTest, SelectionCreditsAndDummyEntries) {
   std::string without = scripted::dump();
   play("Down Enter Down Enter Down Enter");
   EXPECT_EQ(scripted::dump(), without) << "LOAD, OPTIONS and CREDITS do nothing";
+  startFreshRun();
+  scripted::addKeys({KeyEvent::arrow(kKeyDown), KeyEvent::arrow(kKeyDown)});
+  scripted::run(runTitleMenu);
+  EXPECT_EQ(scripted::colourAt(16, 17), 79) << "a burst of keys moves the selection once";
 }
 
 TEST_F(TitleMenuTest, NewGameAndExit) {
