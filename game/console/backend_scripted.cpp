@@ -11,8 +11,6 @@ namespace {
 std::deque<Step> script;
 std::deque<KeyEvent> queue;
 std::int64_t clock = 0;
-int polls = 0;
-int flushes = 0;
 std::function<void(int)> sleepWatcher;
 std::function<bool(KeyEvent&)> player;
 
@@ -73,8 +71,6 @@ void reset() {
   script.clear();
   queue.clear();
   clock = 0;
-  polls = 0;
-  flushes = 0;
   sleepWatcher = nullptr;
   player = nullptr;
   ScreenModel& s = Console::mutableScreen();
@@ -104,8 +100,6 @@ void setPlayer(std::function<bool(KeyEvent&)> newPlayer) { player = std::move(ne
 int stepsLeft() { return static_cast<int>(script.size()); }
 int queued() { return static_cast<int>(queue.size()); }
 std::int64_t clockMicros() { return clock; }
-int pollCount() { return polls; }
-int flushCount() { return flushes; }
 
 std::string textAt(int column, int row, int length) {
   std::string out;
@@ -123,13 +117,6 @@ int colourAt(int column, int row) {
 std::uint8_t codeAt(int column, int row) {
   if (column < 0 || column >= kScreenWidth || row < 0 || row >= kScreenHeight) return 0;
   return Console::screen().cells[row][column].code;
-}
-
-bool screenHas(const std::string& text) {
-  for (int r = 0; r < kScreenHeight; ++r) {
-    if (rowText(r).find(text) != std::string::npos) return true;
-  }
-  return false;
 }
 
 std::string dump() {
@@ -157,7 +144,6 @@ void show(ScreenModel& screen) {
 }
 
 bool keyWaiting() {
-  ++scripted::polls;
   if (!scripted::refill(true)) return false;
   for (const KeyEvent& key : scripted::queue) {
     if (scripted::counts(key)) return true;
@@ -173,7 +159,6 @@ KeyEvent readKey() {
 }
 
 void flushKeys() {
-  ++scripted::flushes;
   scripted::queue.clear();
 }
 

@@ -74,17 +74,11 @@ std::int64_t clockMicros();
 // up to date: a test watches an animation frame by frame.
 void watchSleeps(std::function<void(int milliseconds)> watcher);
 
-// How often the game polled, read, flushed and showed the screen.
-int pollCount();
-int flushCount();
-
 // The screen, read back. Text comes as code page 437 codes.
 std::string textAt(int column, int row, int length);
 std::string rowText(int row);
 int colourAt(int column, int row);
 std::uint8_t codeAt(int column, int row);
-// True if `text` stands anywhere on the screen.
-bool screenHas(const std::string& text);
 // The whole screen, rows joined by newlines, for failure messages.
 std::string dump();
 
