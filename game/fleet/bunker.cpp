@@ -5,5 +5,8 @@ void Bunker::clear() {
   fuel_ = 0;
   materials_ = 0;
   artifacts_ = 0;
+  aircraft_.clear();
+  crew_.clear();
+  bombs_.clear();
   built_ = false;
 }

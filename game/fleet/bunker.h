@@ -5,6 +5,10 @@
 
 #include <cstdint>
 
+#include "game/cargo/bomb_list.h"
+#include "game/crew/crew_list.h"
+#include "game/fleet/aircraft.h"
+
 class Bunker {
  public:
   std::int32_t getFood() const { return food_; }
@@ -13,6 +17,12 @@ class Bunker {
   bool isBuilt() const { return built_; }
   double progress() const { return progress_; }
   char sectorLetter() const { return sectorLetter_; }
+  AircraftList& getAircraft() { return aircraft_; }
+  const AircraftList& getAircraft() const { return aircraft_; }
+  CrewList& getCrew() { return crew_; }
+  const CrewList& getCrew() const { return crew_; }
+  BombList& getBombs() { return bombs_; }
+  const BombList& getBombs() const { return bombs_; }
 
   void addFood(std::int32_t amount) { food_ += amount; }
   void addMaterials(std::int32_t amount) { materials_ += amount; }
@@ -25,8 +35,8 @@ class Bunker {
     progress_ = 100.0;
   }
 
-  // Empties the bunker for a new game: its stores, and it is no longer
-  // built. The site and the work done stay.
+  // Empties the bunker for a new game: its stores, craft, crew and bombs,
+  // and it is no longer built. The site and the work done stay.
   void clear();
 
  private:
@@ -34,6 +44,9 @@ class Bunker {
   std::int32_t fuel_ = 0;  // nothing changes it
   std::int32_t materials_ = 0;
   std::int32_t artifacts_ = 0;  // nothing changes it
+  AircraftList aircraft_;
+  CrewList crew_{kBunkerCrewCapacity};
+  BombList bombs_;  // nothing adds to it
   bool built_ = false;
   std::int32_t subSector_ = -1;  // -1 until a capsule has been aimed here
   double progress_ = 0.0;        // percent of the work done

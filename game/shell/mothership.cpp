@@ -6,11 +6,26 @@ constexpr float kScheduleMorale[5] = {5.0f, 1.0f, 0.0f, -3.0f, -15.0f};
 constexpr float kFamineMorale = -15.0f;
 }  // namespace
 
+namespace {
+std::int32_t clampToInt32(std::int64_t value) {
+  if (value > INT32_MAX) return INT32_MAX;
+  if (value < INT32_MIN) return INT32_MIN;
+  return static_cast<std::int32_t>(value);
+}
+}  // namespace
+
 std::int32_t Mothership::cargoUsed() const {
-  return static_cast<std::int32_t>(food_) + fuel_ + materials_ + artifacts_;
+  const std::int64_t used = static_cast<std::int64_t>(food_) + fuel_ + materials_ + artifacts_ +
+                            static_cast<std::int64_t>(kBombWeight) * bombs_.count() +
+                            static_cast<std::int64_t>(kEggWeight) * eggs_.count();
+  return clampToInt32(used);
 }
 
-std::int32_t Mothership::dockSpaceUsed() const { return 40000 * readyCapsules_; }
+std::int32_t Mothership::dockSpaceUsed() const {
+  std::int64_t used = static_cast<std::int64_t>(kCapsuleDockSpace) * readyCapsules_;
+  for (std::int32_t i = 0; i < aircraft_.count(); ++i) used += aircraft_.at(i).getDockSpace();
+  return clampToInt32(used);
+}
 
 bool Mothership::addAdvisor(int id) {
   static constexpr const char* kNames[9] = {"Carolla", "Emerson",         "Pinsky",
@@ -25,8 +40,9 @@ bool Mothership::addAdvisor(int id) {
 }
 
 void Mothership::eatFood() {
-  // The captain eats too.
-  auto use = static_cast<std::uint32_t>(advisors_.size() + 1);
+  // The captain eats too. Crew aboard craft eat nothing.
+  auto use = static_cast<std::uint32_t>(crew_.getCount()) +
+             static_cast<std::uint32_t>(advisors_.size()) + 1;
   food_ = food_ > use ? food_ - use : 0;
 }
 

@@ -10,7 +10,11 @@
 #include <cstdint>
 #include <vector>
 
+#include "game/cargo/bomb_list.h"
+#include "game/cargo/egg_list.h"
 #include "game/console/text.h"
+#include "game/crew/crew_list.h"
+#include "game/fleet/aircraft.h"
 
 // One of the ship's named officers. The game only counts them: each eats
 // like a crew member.
@@ -67,12 +71,26 @@ class Mothership {
   std::int32_t moraleWhole() const { return static_cast<std::int32_t>(morale_); }
   void setMorale(float morale) { morale_ = morale; }
 
+  // What the ship carries: its craft, crew, bombs and eggs.
+  AircraftList& aircraft() { return aircraft_; }
+  const AircraftList& aircraft() const { return aircraft_; }
+  CrewList& crew() { return crew_; }
+  const CrewList& crew() const { return crew_; }
+  BombList& bombs() { return bombs_; }
+  const BombList& bombs() const { return bombs_; }
+  EggList& eggs() { return eggs_; }
+  const EggList& eggs() const { return eggs_; }
+  // The room left in the hold and in the dock.
+  std::int32_t cargoRoomLeft() const { return kHoldLimit - cargoUsed(); }
+  std::int32_t dockRoomLeft() const { return kDockLimit - dockSpaceUsed(); }
+
   std::vector<Advisor>& advisors() { return advisors_; }
   const std::vector<Advisor>& advisors() const { return advisors_; }
   // False, and nothing added, when the list is full.
   bool addAdvisor(int id);
 
-  // The day's meal: everyone aboard eats one unit, the captain included.
+  // The day's meal: every crew member and advisor eats one unit, and so
+  // does the captain.
   void eatFood();
   // Morale moves by the work schedule, or falls hard without food.
   void updateMorale();
@@ -97,7 +115,11 @@ class Mothership {
   std::int32_t materials_ = 10000;
   std::int32_t artifacts_ = 0;
   std::int32_t readyCapsules_ = 2;
+  AircraftList aircraft_;
+  CrewList crew_{kShipCrewCapacity};
   std::vector<Advisor> advisors_;
+  BombList bombs_;
+  EggList eggs_;
   std::int32_t currentSector_ = 0;
   std::int32_t destinationSector_ = 0;
   float morale_ = 100.0f;
