@@ -32,6 +32,9 @@ struct DeckMenu {
   const char* labels[5];
   bool showEscapeLine = true;
   MenuResult (*onEnter)(DeckMenu& menu, int button) = nullptr;
+  // The deck's side panel: drawn when the menu opens, each time the
+  // selection changes, and after a screen of the deck has been redrawn.
+  void (*onSelect)(DeckMenu& menu) = nullptr;
   // Keys the menu does not use itself, for decks with keys of their own.
   void (*onOtherKey)(const KeyEvent& key) = nullptr;
   // The cargo deck's menu leaves keys in the queue; all others flush.

@@ -9,6 +9,7 @@
 #include "game/messages/library_deck.h"
 #include "game/planet/navigation.h"
 #include "game/research/engineering_deck.h"
+#include "game/research/research_station.h"
 #include "game/shell/mothership.h"
 #include "game/shell/status_bar.h"
 
@@ -69,7 +70,7 @@ constexpr int kMoves[kDeckCount][4] = {
 // not aboard yet only flashes.
 using DeckRoutine = void (*)();
 constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
-    runNavigationDeck, runLibraryDeck, nullptr, runEngineeringDeck,
+    runNavigationDeck, runLibraryDeck, runResearchStation, runEngineeringDeck,
     nullptr,           nullptr,        nullptr, nullptr,
 };
 
