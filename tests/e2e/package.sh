@@ -5,7 +5,7 @@
 # Usage: package.sh path/to/build-folder
 set -u
 build=$(realpath "$1")
-for tool in cpack dpkg dpkg-deb dpkg-shlibdeps tmux; do
+for tool in cpack dpkg dpkg-deb tmux; do
   if ! command -v "$tool" >/dev/null 2>&1; then
     echo "SKIPPED: $tool is not installed, so the Debian package cannot be made and tried here"
     exit 77
