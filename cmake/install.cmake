@@ -47,10 +47,11 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 # The libraries the game links (ncursesw, the C++ runtime) become the
-# package's dependencies: dpkg-shlibdeps (from dpkg-dev) works them out, and
-# without it they are named as Debian 12 and Ubuntu 24.04 call them.
+# package's dependencies: dpkg-shlibdeps (from dpkg-dev, with file) works them
+# out, and without them they are named as Debian 12 and Ubuntu 24.04 call them.
 find_program(SKARMADA_SHLIBDEPS dpkg-shlibdeps)
-if(SKARMADA_SHLIBDEPS)
+find_program(SKARMADA_FILE file)
+if(SKARMADA_SHLIBDEPS AND SKARMADA_FILE)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 else()
   set(CPACK_DEBIAN_PACKAGE_DEPENDS "libc6, libgcc-s1, libncursesw6, libstdc++6, libtinfo6")
