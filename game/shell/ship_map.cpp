@@ -6,6 +6,7 @@
 
 #include "game/art/ship.h"
 #include "game/console/console.h"
+#include "game/freighter/super_freighter.h"
 #include "game/messages/library_deck.h"
 #include "game/planet/navigation.h"
 #include "game/research/engineering_deck.h"
@@ -70,7 +71,7 @@ constexpr int kMoves[kDeckCount][4] = {
 using DeckRoutine = void (*)();
 constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
     runNavigationDeck, runLibraryDeck, nullptr, runEngineeringDeck,
-    nullptr,           nullptr,        nullptr, nullptr,
+    nullptr,           nullptr,        nullptr, runFreighter,
 };
 
 // The plain drawing with the rooms' cells blanked: the hull under the shield.
