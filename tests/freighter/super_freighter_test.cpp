@@ -166,10 +166,6 @@ TEST_F(FreighterTest, TheShipStandsGreenWhileTheShieldsAreOn) {
     SCOPED_TRACE(shields);
     startFreshRun();
     if (shields) theMothership().toggleShields();
-    EXPECT_TRUE(visit("Idle:1"));
-    EXPECT_EQ(colourOf(kSpotMothership), kSpotSelected) << "the player starts at the ship";
-    startFreshRun();
-    if (shields) theMothership().toggleShields();
     EXPECT_TRUE(visit("Up Idle:1"));
     EXPECT_EQ(colourOf(kSpotMothership), shields ? kShieldedShipColour : kSpotAtRest);
     EXPECT_EQ(colourOf(kSpotSpacecraft), kSpotAtRest) << "the shops stay white";
