@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 
+#include "game/art/freighter.h"
 #include "game/art/ion_feed.h"
 #include "game/art/land_tiles.h"
 #include "game/art/portraits.h"
@@ -33,6 +34,13 @@ TEST(Pictures, SoundSizedInTheirColoursAndGlyphs) {
   const Case cases[] = {
       {kShipPicture, 80, 19, {}},
       {kFreighterRoomPicture, 19, 3, {}},
+      {kFreighterHull, 80, 23, {4, 8, 12, 15}},
+      {kFreighterSpots[0], 35, 6, {}},
+      {kFreighterSpots[1], 21, 6, {}},
+      {kFreighterSpots[2], 23, 7, {}},
+      {kFreighterSpots[3], 23, 4, {}},
+      {kFreighterSpots[4], 17, 4, {}},
+      {kFreighterSpots[5], 38, 8, {}},
       {kTitleTop, 70, 6, {}, kBoxDrawing},
       {kTitleMiddle, 43, 6, {}, kBoxDrawing},
       {kTitleTail, 16, 1, {}, kBoxDrawing},

@@ -130,6 +130,38 @@ ended 1 || fail "Ctrl+C did not end the game within a second"
 restored
 t kill-session -t game
 
+# Thirty days ended in orbit bring the Super Freighter: its room opens under
+# the Library, Escape does nothing aboard, a front lights up, and Enter on the
+# Mothership goes back to the map. A "d" in the Library keeps the crew fed.
+start
+wait_for "NEW GAME"
+key Enter
+wait_for "DAY:    1"
+keys Right Down
+wait_for " LIBRARY:"
+for day in $(seq 2 31); do
+  key Enter
+  wait_for "End Turn Factor 6"
+  keys d Down Enter
+  wait_for "End Day?"
+  key y
+  sleep 0.2
+  screen | grep -qF "Good Morning" && key Escape
+  wait_for "DAY: $(printf '%4d' "$day")"
+done
+key Down
+wait_for " SUPER FREIGHTER:"
+key Enter
+wait_for "SAL'S  SELECT  SPACECRAFT"
+key Escape
+screen | grep -qF "MERCENARY    MARKET" || fail "Escape left the Super Freighter"
+key Up
+t capture-pane -e -p -t game | sed -n 10p | grep -qE $'\e\\[(1;)?(33|93|38;5;11)m[^\e]*BOB' ||
+  fail "the bazaar is not lit yellow"
+keys Down Enter
+wait_for " SUPER FREIGHTER:"
+t kill-session -t game
+
 # SIGTERM, as when the system shuts down, also leaves the terminal as it was.
 start
 wait_for "NEW GAME"
