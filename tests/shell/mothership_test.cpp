@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "game/shell/starting_contents.h"
 #include "tests/support/fresh_game.h"
 
@@ -19,25 +21,39 @@ TEST_F(MothershipTest, StartsWithItsStoresAndNineAdvisors) {
   EXPECT_EQ(ship.advisors()[6].name.view(), "Kryptal");
   EXPECT_EQ(ship.cargoUsed(), 1000 + 150000 + 10000);
   EXPECT_EQ(ship.dockSpaceUsed(), 80000) << "two capsules";
+  // 33 crew, nine advisors and the captain eat; food for exactly one
+  // meal is no longer "more than the meal".
+  for (auto [before, after] : {std::pair{100u, 57u}, {44u, 1u}, {43u, 0u}, {42u, 0u}}) {
+    ship.setFood(before);
+    ship.eatFood();
+    EXPECT_EQ(ship.food(), after) << before;
+  }
+  ship.crew().clear();
   ship.setFood(100);
-  ship.eatFood();  // nine advisors and the captain
-  EXPECT_EQ(ship.food(), 90u);
-  ship.setFood(10);
   ship.eatFood();
-  EXPECT_EQ(ship.food(), 0u);
+  EXPECT_EQ(ship.food(), 90u) << "the crew, not a fixed count, sits at the table";
 }
 
 TEST_F(MothershipTest, MoraleFollowsTheScheduleOrTheFamineWithinItsBounds) {
-  const float after[5] = {100, 100, 100, 97, 85};
+  // From 50, where no bound hides a wrong step.
+  const float after[5] = {55, 51, 50, 47, 35};
   for (int schedule = 0; schedule < 5; ++schedule) {
-    ship.setMorale(100);
+    ship.setMorale(50);
     ship.setWorkSchedule(schedule);
     ship.updateMorale();
     EXPECT_EQ(ship.morale(), after[schedule]) << schedule;
   }
-  ship.setMorale(10);
+  ship.setMorale(100);
+  for (int morale : {85, 70, 55, 40, 25, 10, 0}) {
+    ship.updateMorale();
+    EXPECT_EQ(ship.moraleWhole(), morale) << "schedule 4 from a full ship: 0 on the seventh day";
+  }
   ship.updateMorale();
-  EXPECT_EQ(ship.morale(), 0) << "schedule 4 stops at 0";
+  EXPECT_EQ(ship.morale(), 0) << "and it stays at 0";
+  ship.setMorale(98);
+  ship.setWorkSchedule(0);
+  ship.updateMorale();
+  EXPECT_EQ(ship.morale(), 100) << "a party stops at 100";
   ship.setMorale(50);
   ship.setWorkSchedule(0);
   ship.setFood(0);
