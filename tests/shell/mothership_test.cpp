@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <utility>
 
+#include "game/console/random.h"
 #include "game/shell/starting_contents.h"
 #include "tests/support/fresh_game.h"
 
@@ -88,6 +90,38 @@ TEST_F(MothershipTest, ANewGameResetsTheShipButKeepsTheScheduleAndTheLand) {
   EXPECT_EQ(ship.workSchedule(), 4);
   EXPECT_EQ(ship.advisors().size(), 9u) << "cleared and boarded again, not doubled";
   EXPECT_EQ(globals().day, 1);
+}
+
+TEST_F(MothershipTest, TheStartUpCrewAndTheNewGamesCrew) {
+  // Each Povolnian's sex is drawn before the six draws of its name.
+  seedRandom(99);
+  int draws[8];
+  for (int& d : draws) d = gameRand();
+  ship.crew().clear();
+  seedRandom(99);
+  layStartingContents();
+  const CrewList& crew = ship.crew();
+  ASSERT_EQ(crew.getCount(), 33);
+  EXPECT_EQ(crew.at(0).getSex(), draws[0] % 2);
+  EXPECT_EQ(crew.at(1).getSex(), draws[7] % 2);
+  auto races = [&] {
+    std::string out;
+    for (int i = 0; i < crew.getCount(); ++i) {
+      out += static_cast<char>('0' + crew.at(i).getRace());
+      if (crew.at(i).getRace() != kRacePovolnian)
+        out += static_cast<char>('0' + crew.at(i).getSex());
+    }
+    return out;
+  };
+  EXPECT_EQ(races(), std::string(20, '1') + "6061606160" + "4140414041" + "313031");
+  resetGame();
+  EXPECT_EQ(crew.getCount(), 30);
+  std::string povolnianSexes;
+  for (int i = 0; i < 20; ++i) povolnianSexes += static_cast<char>('0' + crew.at(i).getSex());
+  EXPECT_EQ(povolnianSexes, std::string(11, '1') + std::string(9, '0'));
+  EXPECT_EQ(races().substr(20),
+            "6061606160"
+            "4040414040");
 }
 
 }  // namespace
