@@ -6,6 +6,7 @@
 
 #include "game/art/ship.h"
 #include "game/console/console.h"
+#include "game/crew/living_quarters.h"
 #include "game/freighter/super_freighter.h"
 #include "game/messages/library_deck.h"
 #include "game/planet/navigation.h"
@@ -75,7 +76,7 @@ constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
     runLibraryDeck,      // LIBRARY
     runResearchStation,  // SCIENTIFIC RESEARCH STATION
     runEngineeringDeck,  // ENGINEERING
-    nullptr,             // LIVING QUARTERS
+    runLivingQuarters,   // LIVING QUARTERS
     nullptr,             // CARGO SPACE
     nullptr,             // DOCKING BAY
     runFreighter,        // SUPER FREIGHTER

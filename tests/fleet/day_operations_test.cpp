@@ -93,7 +93,7 @@ TEST_F(DayOperationsTest, BunkerCrewsEatAndAStarvingCrewEatsOneOfItsOwn) {
       {3, 15, 12, 3, ""},
       {3, 13, 10, 3,
        "Bunker I is low on food. Get them some before they start eating each other!\n"},
-      {1, 1, 0, 0, "Bunker I is out of food. The crew there turned to canibalism and ate Mako!\n"},
+      {1, 1, 0, 0, "Bunker I is out of food. The crew there turned to canibalism and ate "},
       {0, 0, 0, 0, ""},
   };
   for (const Case& c : cases) {
@@ -101,10 +101,12 @@ TEST_F(DayOperationsTest, BunkerCrewsEatAndAStarvingCrewEatsOneOfItsOwn) {
     theMessageLog().clear();
     for (int i = 0; i < c.crew; ++i) bunker(1).getCrew().add(kRaceMako, 0);
     bunker(1).addFood(c.food);
+    std::string expected = c.message;
+    if (c.crewAfter < c.crew) expected += std::string(bunker(1).getCrew().at(0).name()) + "!\n";
     runBunkerMeals();
     EXPECT_EQ(bunker(1).getFood(), c.foodAfter) << c.crew << " crew, " << c.food << " food";
     EXPECT_EQ(bunker(1).getCrew().getCount(), c.crewAfter);
-    EXPECT_EQ(logLines(), c.message);
+    EXPECT_EQ(logLines(), expected);
   }
 }
 
