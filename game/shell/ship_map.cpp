@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "game/art/ship.h"
+#include "game/cargo/cargo_deck.h"
 #include "game/console/console.h"
 #include "game/messages/library_deck.h"
 #include "game/planet/navigation.h"
@@ -70,8 +71,14 @@ constexpr int kMoves[kDeckCount][4] = {
 // not aboard yet only flashes.
 using DeckRoutine = void (*)();
 constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
-    runNavigationDeck, runLibraryDeck, runResearchStation, runEngineeringDeck,
-    nullptr,           nullptr,        nullptr, nullptr,
+    runNavigationDeck,
+    runLibraryDeck,
+    runResearchStation,
+    runEngineeringDeck,
+    nullptr,
+    runCargoDeck,
+    nullptr,
+    nullptr,
 };
 
 // The plain drawing with the rooms' cells blanked: the hull under the shield.
