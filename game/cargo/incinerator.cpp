@@ -61,7 +61,8 @@ void drawCounts(const IncineratorState& s) {
   Console::putText("Total Items In Cargo:", 7, 19, kTextColour);
   Console::putNumberPadded(static_cast<std::int32_t>(s.cargoMap.size()), 29, 19, kTextColour, 5);
   Console::putText("Total Items In Incinerator:", 42, 19, kTextColour);
-  Console::putNumber(static_cast<std::int32_t>(s.burnMap.size()), 70, 19, kTextColour);
+  // In a field too, so that a count falling from 10 to 9 leaves no stale digit.
+  Console::putNumberPadded(static_cast<std::int32_t>(s.burnMap.size()), 70, 19, kTextColour, 5);
   Console::putText("Total Fuel Gained From Destroying Items:", 20, 21, kTextColour);
   Console::putNumber(s.fuelGained, 61, 21, kTextColour);
 }

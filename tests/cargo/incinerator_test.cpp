@@ -115,6 +115,9 @@ TEST_F(IncineratorTest, MoreItemsThanTheScreenWasLaidOutFor) {
   EXPECT_FALSE(play(toTheEnd + "Enter Right Enter"));
   EXPECT_EQ(cargoTotal(), 265);
   EXPECT_TRUE(lit(kCargoColumn)) << "the burn list emptied: back on the cargo side";
+  EXPECT_FALSE(play("Enter Enter Enter Enter Enter Enter Enter Enter Enter Enter Right Enter"));
+  EXPECT_EQ(scripted::textAt(42, 19, 33), "Total Items In Incinerator: 9    ");
+  EXPECT_EQ(scripted::textAt(7, 19, 27), "Total Items In Cargo: 256  ");
 }
 
 TEST_F(IncineratorTest, EachVisitBringsAnEggThroughTheDeck) {
