@@ -12,14 +12,9 @@
 
 namespace {
 
-constexpr int kHighlight = 241;
-constexpr int kCargoColumn = 3;
-constexpr int kBurnColumn = 40;
-constexpr int kListTop = 5;
-
-std::string padded(std::string_view text, std::size_t width = 35) {
+std::string padded(std::string_view text) {
   std::string s(text);
-  s.resize(width, ' ');
+  s.resize(35, ' ');
   return s;
 }
 
@@ -29,56 +24,50 @@ class IncineratorTest : public ::testing::Test {
     startFreshRun();
     ship.crew().clear();
   }
-  // Runs the screen on these keys; true if it ended by itself.
+  // True if the screen ended by itself.
   bool play(const std::string& keys) {
     scripted::reset();
     scripted::addKeys(keys);
     return !scripted::run(runIncinerator);
   }
-  int cargoTotal() { return std::stoi(scripted::textAt(29, 19, 5)); }
-  int burnTotal() { return std::stoi(scripted::textAt(70, 19, 6)); }
-  // Whether a row of the list at this column is highlighted.
+  int total(int column) { return std::stoi(scripted::textAt(column, 19, 5)); }
+  // Whether the list at this column has the highlight.
   bool lit(int column) {
-    for (int r = kListTop; r < kListTop + 13; ++r) {
-      if (scripted::colourAt(column, r) == kHighlight) return true;
+    for (int r = 5; r < 18; ++r) {
+      if (scripted::colourAt(column, r) == 241) return true;
     }
     return false;
   }
   Mothership& ship = theMothership();
 };
 
-TEST_F(IncineratorTest, EveryItemMovedAcrossAndBackWithTheSidesChangingByThemselves) {
+TEST_F(IncineratorTest, EveryItemAcrossAndBackTheSidesChangingByThemselves) {
   WorkingFolder folder;
   folder.write("Golden Idol\n");
   ship.addArtifacts(2);
   ship.eggs().add(1, ship.cargoRoomLeft());
   ship.crew().add(3, 0);
   ship.crew().add(6, 1);
-  // Each Enter moves the top row of the list that has the keys.
-  std::string keys;
-  for (int moved = 0; moved <= 10; ++moved) {
+  std::string keys;  // each Enter moves the top row of the list that has the keys
+  for (int moved = 0; moved <= 10; ++moved, keys += "Enter ") {
     EXPECT_FALSE(play(keys));
     const int burnt = moved <= 5 ? moved : 10 - moved;
-    EXPECT_EQ(cargoTotal(), 5 - burnt) << moved;
-    EXPECT_EQ(burnTotal(), burnt) << moved;
-    const bool burnSide = moved >= 5 && moved < 10;
-    EXPECT_EQ(lit(kBurnColumn), burnSide) << moved;
-    EXPECT_EQ(lit(kCargoColumn), !burnSide) << moved;
+    EXPECT_EQ(total(29), 5 - burnt) << moved;
+    EXPECT_EQ(total(70), burnt) << moved;
+    EXPECT_EQ(lit(40), moved >= 5 && moved < 10) << moved;
+    EXPECT_EQ(lit(3), moved < 5 || moved == 10) << moved;
     EXPECT_EQ(scripted::textAt(20, 21, 42), "Total Fuel Gained From Destroying Items: 0");
-    keys += "Enter ";
   }
-  play("");
-  // Artifacts, then eggs, then crew by name.
-  const std::string expected[5] = {padded("Golden Idol"), padded("Golden Idol"),
-                                   padded("Povolnian Eggs"), padded(ship.crew().at(0).name()),
-                                   padded(ship.crew().at(1).name())};
-  for (int r = 0; r < 5; ++r) {
-    EXPECT_EQ(scripted::textAt(kCargoColumn, kListTop + r, 35), expected[r]) << r;
-  }
-  EXPECT_NE(expected[3], padded("")) << "crew members have names";
+  // Artifacts, then eggs, then the crew by name.
+  const std::string rows[5] = {"Golden Idol", "Golden Idol", "Povolnian Eggs",
+                               std::string(ship.crew().at(0).name()),
+                               std::string(ship.crew().at(1).name())};
+  for (int r = 0; r < 5; ++r) EXPECT_EQ(scripted::textAt(3, 5 + r, 35), padded(rows[r])) << r;
+  EXPECT_NE(rows[3], "");
 }
 
 TEST_F(IncineratorTest, LeavingAsksOnlyWithSomethingMarkedAndBurnsNothing) {
+  EXPECT_TRUE(play("")) << "nothing to sort: the visit ends";
   ship.addArtifacts(3);
   ship.crew().add(3, 0);
   EXPECT_TRUE(play("Right Left Esc")) << "nothing marked: no question";
@@ -91,30 +80,18 @@ TEST_F(IncineratorTest, LeavingAsksOnlyWithSomethingMarkedAndBurnsNothing) {
   EXPECT_EQ(ship.artifacts(), 3);
   EXPECT_EQ(ship.crew().getCount(), 1);
   EXPECT_FALSE(play("")) << "the next visit starts with everything in the cargo";
-  EXPECT_EQ(cargoTotal(), 4);
-  EXPECT_EQ(burnTotal(), 0);
-}
-
-TEST_F(IncineratorTest, NothingToSortEndsTheVisit) {
-  EXPECT_TRUE(play(""));
-  EXPECT_EQ(scripted::textAt(3, 2, 45), "Burn Resources In The Cargo Hold to make Fuel");
+  EXPECT_EQ(total(29), 4);
 }
 
 TEST_F(IncineratorTest, MoreItemsThanTheScreenWasLaidOutFor) {
-  // 265 items, 265 in one list: the last crew member goes across and back.
-  ship.addArtifacts(5);
+  ship.addArtifacts(5);  // 265 items in all
   for (int i = 0; i < 20; ++i) ship.eggs().add(1, ship.cargoRoomLeft());
   for (int i = 0; i < 240; ++i) ship.crew().add(3, i % 2);
   std::string toTheEnd;
-  for (int i = 0; i < 25; ++i) toTheEnd += "PgDn ";
-  for (int i = 0; i < 13; ++i) toTheEnd += "Down ";
+  for (int i = 0; i < 25; ++i) toTheEnd += "PgDn Down ";
   EXPECT_FALSE(play(toTheEnd + "Enter"));
-  EXPECT_EQ(cargoTotal(), 264);
-  EXPECT_EQ(burnTotal(), 1);
-  EXPECT_EQ(scripted::textAt(kBurnColumn, kListTop, 35), padded(ship.crew().at(239).name()));
-  EXPECT_FALSE(play(toTheEnd + "Enter Right Enter"));
-  EXPECT_EQ(cargoTotal(), 265);
-  EXPECT_TRUE(lit(kCargoColumn)) << "the burn list emptied: back on the cargo side";
+  EXPECT_EQ(total(29), 264);
+  EXPECT_EQ(scripted::textAt(40, 5, 35), padded(ship.crew().at(239).name()));
   EXPECT_FALSE(play("Enter Enter Enter Enter Enter Enter Enter Enter Enter Enter Right Enter"));
   EXPECT_EQ(scripted::textAt(42, 19, 33), "Total Items In Incinerator: 9    ");
   EXPECT_EQ(scripted::textAt(7, 19, 27), "Total Items In Cargo: 256  ");
