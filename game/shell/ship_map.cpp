@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "game/art/ship.h"
+#include "game/cargo/cargo_deck.h"
 #include "game/console/console.h"
 #include "game/crew/living_quarters.h"
 #include "game/freighter/super_freighter.h"
@@ -77,7 +78,7 @@ constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
     runResearchStation,  // SCIENTIFIC RESEARCH STATION
     runEngineeringDeck,  // ENGINEERING
     runLivingQuarters,   // LIVING QUARTERS
-    nullptr,             // CARGO SPACE
+    runCargoDeck,        // CARGO SPACE
     nullptr,             // DOCKING BAY
     runFreighter,        // SUPER FREIGHTER
 };

@@ -95,6 +95,9 @@ TEST_F(ListBoxTest, OddStatesAndEvents) {
   rows.clear();
   EXPECT_EQ(run("Down PgDn PgUp Up Enter"), -1) << "an empty list gives nothing";
   EXPECT_EQ(bar(kBox - 1), 254);
+  fill(4);
+  EXPECT_EQ(run("Enter"), 0) << "the list has rows again: the highlight is back on the first";
+  EXPECT_EQ(highlightedRow(), 0);
 }
 
 TEST_F(ListBoxTest, DisplayOnlyDrawsOnceWithoutAHighlightOrAKey) {

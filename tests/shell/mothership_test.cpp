@@ -72,6 +72,9 @@ TEST_F(MothershipTest, ChargesStopAtZeroAndAddsAtTheTop) {
   ship.setFuel(INT32_MAX - 5);
   ship.addFuel(100000);
   EXPECT_EQ(ship.fuel(), INT32_MAX);
+  ship.setFood(UINT32_MAX - 5);
+  ship.addFood(400);
+  EXPECT_EQ(ship.food(), UINT32_MAX) << "food stops at the top too, never wraps to nothing";
 }
 
 TEST_F(MothershipTest, ANewGameResetsTheShipButKeepsTheScheduleAndTheLand) {
