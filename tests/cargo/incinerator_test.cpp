@@ -88,7 +88,7 @@ TEST_F(IncineratorTest, MoreItemsThanTheScreenWasLaidOutFor) {
   for (int i = 0; i < 20; ++i) ship.eggs().add(1, ship.cargoRoomLeft());
   for (int i = 0; i < 240; ++i) ship.crew().add(3, i % 2);
   std::string toTheEnd;
-  for (int i = 0; i < 25; ++i) toTheEnd += "PgDn Down ";
+  for (int i = 0; i < 264; ++i) toTheEnd += "Down ";
   EXPECT_FALSE(play(toTheEnd + "Enter"));
   EXPECT_EQ(total(29), 264);
   EXPECT_EQ(scripted::textAt(40, 5, 35), padded(ship.crew().at(239).name()));
