@@ -18,7 +18,7 @@ TEST_F(MothershipTest, StartsWithItsStoresAndNineAdvisors) {
   EXPECT_EQ(ship.advisors().size(), 9u);
   EXPECT_EQ(ship.advisors()[6].name.view(), "Kryptal");
   EXPECT_EQ(ship.cargoUsed(), 1000 + 150000 + 10000);
-  EXPECT_EQ(ship.dockSpaceUsed(), 80000) << "two capsules";
+  EXPECT_EQ(ship.dockSpaceUsed(), 350000) << "four craft and two capsules";
   ship.setFood(100);
   ship.eatFood();  // nine advisors and the captain
   EXPECT_EQ(ship.food(), 90u);
