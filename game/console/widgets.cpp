@@ -79,6 +79,7 @@ void showMenu(DeckMenu& menu) {
         }
         drawMenuButton(old, menu.labels[old - 1], kButtonAtRest);
         drawMenuButton(menu.selected, menu.labels[menu.selected - 1], kButtonSelected);
+        if (menu.onSelect != nullptr) menu.onSelect(menu, old);
       } else if (key.ascii == 13) {
         if (menu.selected == 5) {
           Console::clearScreen();
@@ -91,6 +92,7 @@ void showMenu(DeckMenu& menu) {
         if (result == MenuResult::Redraw) {
           drawFrame(kDeckFrameColour, false);
           drawMenuButtons(menu);
+          if (menu.onSelect != nullptr) menu.onSelect(menu, menu.selected);
         }
       } else if (key.ascii == 27) {
         Console::clearScreen();

@@ -34,6 +34,10 @@ struct DeckMenu {
   MenuResult (*onEnter)(DeckMenu& menu, int button) = nullptr;
   // Keys the menu does not use itself, for decks with keys of their own.
   void (*onOtherKey)(const KeyEvent& key) = nullptr;
+  // A deck's side panel: called when the selection has moved (with the
+  // button it left) and when the frame has been drawn again after a screen
+  // of the deck (with the selected button itself).
+  void (*onSelect)(DeckMenu& menu, int previous) = nullptr;
   // The cargo deck's menu leaves keys in the queue; all others flush.
   bool flushAfterKey = true;
   int selected = 1;

@@ -6,6 +6,7 @@
 
 #include "game/art/ship.h"
 #include "game/console/console.h"
+#include "game/fleet/docking_bay.h"
 #include "game/messages/library_deck.h"
 #include "game/planet/navigation.h"
 #include "game/research/engineering_deck.h"
@@ -69,8 +70,8 @@ constexpr int kMoves[kDeckCount][4] = {
 // not aboard yet only flashes.
 using DeckRoutine = void (*)();
 constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
-    runNavigationDeck, runLibraryDeck, nullptr, runEngineeringDeck,
-    nullptr,           nullptr,        nullptr, nullptr,
+    runNavigationDeck, runLibraryDeck, nullptr,       runEngineeringDeck,
+    nullptr,           nullptr,        runDockingBay, nullptr,
 };
 
 // The plain drawing with the rooms' cells blanked: the hull under the shield.
