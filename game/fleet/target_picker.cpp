@@ -107,6 +107,8 @@ bool pickTarget(std::int32_t location, std::int32_t craftRow, bool anySector) {
   drawTargetState(craft);
   for (;;) {
     Console::putText("Highlighted Selection", 3, 18, 15);
+    // A letter is shorter than "Mothership": the line is cleared first.
+    Console::putText(std::string(10, ' '), 11, 19, 14);
     drawSectorLine(3, 19, 15, 14, cursor, "Mothership");
     const KeyEvent key = Console::readKey();
     if (key.isKey && key.keyDown) {
