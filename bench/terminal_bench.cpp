@@ -2,6 +2,8 @@
 // pseudo-terminal of 80x25, driven by keys, its output and CPU measured.
 //
 //   ShipMapIdle     the ship map left alone: CPU and bytes written
+//   FreighterIdle   the Super Freighter's screen left alone, after 30 days
+//                   ended from the Library: CPU and bytes written
 //   TitleIdle       the title animation left alone: runner steps per second,
 //                   bytes per step, CPU
 //   RoomMove        a room move on the ship map: key to the last byte
@@ -139,6 +141,54 @@ void ShipMapIdle(benchmark::State& state) {
   }
 }
 
+// From the ship map, in orbit: to the Library and through 30 ends of day,
+// to the morning the Super Freighter arrives, then into its room. True when
+// the freighter's screen came.
+bool onTheFreighter(Game& game) {
+  onTheShipMap(game);
+  game.send(kRight);
+  game.settle(60);
+  game.send(kDown);  // LIBRARY
+  game.settle(60);
+  for (int day = 1; day <= 30; ++day) {
+    game.send(kEnter);  // the room flashes, then the deck's menu
+    game.settle(150);
+    for (int i = 0; i < 3; ++i) {
+      game.send("d");  // the hidden food key: the crew stays fed
+      game.settle(60);
+    }
+    game.send(kDown);  // End Turn
+    game.settle(60);
+    game.send(kEnter);
+    game.settle(60);
+    game.send("y");  // End Day? Yes
+    game.settle(150);
+    for (int i = 0; i < 2; ++i) {
+      game.send(kEscape);  // closes a warning and the morning report; nothing on the map
+      game.settle(100);
+    }
+  }
+  game.send(kDown);  // SUPER FREIGHTER
+  game.settle(60);
+  game.send(kEnter);
+  return game.settle(800).find("COSMIC") != std::string::npos;
+}
+
+void FreighterIdle(benchmark::State& state) {
+  for (auto _ : state) {
+    Game game;
+    if (!onTheFreighter(game)) {
+      state.SkipWithError("the Super Freighter's screen never came");
+      return;
+    }
+    double cpu = game.cpuSeconds();
+    std::string out = game.collect(kIdleSeconds);
+    state.SetIterationTime(kIdleSeconds);
+    state.counters["cpu_percent"] = 100.0 * (game.cpuSeconds() - cpu) / kIdleSeconds;
+    state.counters["bytes_written"] = static_cast<double>(out.size());
+  }
+}
+
 void TitleIdle(benchmark::State& state) {
   for (auto _ : state) {
     Game game;
@@ -195,6 +245,7 @@ void EscapeKey(benchmark::State& state) {
 }  // namespace
 
 BENCHMARK(ShipMapIdle)->Iterations(1)->UseManualTime()->Unit(benchmark::kSecond);
+BENCHMARK(FreighterIdle)->Iterations(1)->UseManualTime()->Unit(benchmark::kSecond);
 BENCHMARK(TitleIdle)->Iterations(1)->UseManualTime()->Unit(benchmark::kSecond);
 BENCHMARK(RoomMove)->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(EscapeKey)->Iterations(10)->UseManualTime()->Unit(benchmark::kMillisecond);

@@ -59,6 +59,9 @@ int run(const ListRow* rows, int column, int row, int width, int visibleRows, in
   // A state left by a longer list is brought inside this one.
   int top = std::clamp(state.top, 0, std::max(0, total - shown));
   int cursorRow = std::min(row + state.cursor, row + total - 1);
+  // A list left while it was empty keeps a cursor above its first row: it
+  // comes back on the first row once it has some.
+  if (total > 0 && cursorRow < row) cursorRow = row;
   if (top + cursorRow - row > total - 1) cursorRow = row + total - 1 - top;
   int sel = top + cursorRow - row;
 

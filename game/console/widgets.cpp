@@ -67,6 +67,7 @@ void showMenu(DeckMenu& menu) {
   Console::home();
   menu.selected = 1;
   drawMenuButtons(menu);
+  if (menu.onSelect != nullptr) menu.onSelect(menu);
   for (;;) {
     KeyEvent key = Console::readKey();
     if (key.isKey && key.keyDown) {
@@ -79,7 +80,7 @@ void showMenu(DeckMenu& menu) {
         }
         drawMenuButton(old, menu.labels[old - 1], kButtonAtRest);
         drawMenuButton(menu.selected, menu.labels[menu.selected - 1], kButtonSelected);
-        if (menu.onSelect != nullptr) menu.onSelect(menu, old);
+        if (menu.onSelect != nullptr) menu.onSelect(menu);
       } else if (key.ascii == 13) {
         if (menu.selected == 5) {
           Console::clearScreen();
@@ -92,7 +93,7 @@ void showMenu(DeckMenu& menu) {
         if (result == MenuResult::Redraw) {
           drawFrame(kDeckFrameColour, false);
           drawMenuButtons(menu);
-          if (menu.onSelect != nullptr) menu.onSelect(menu, menu.selected);
+          if (menu.onSelect != nullptr) menu.onSelect(menu);
         }
       } else if (key.ascii == 27) {
         Console::clearScreen();

@@ -32,12 +32,11 @@ struct DeckMenu {
   const char* labels[5];
   bool showEscapeLine = true;
   MenuResult (*onEnter)(DeckMenu& menu, int button) = nullptr;
+  // The deck's side panel: drawn when the menu opens, each time the
+  // selection changes, and after a screen of the deck has been redrawn.
+  void (*onSelect)(DeckMenu& menu) = nullptr;
   // Keys the menu does not use itself, for decks with keys of their own.
   void (*onOtherKey)(const KeyEvent& key) = nullptr;
-  // A deck's side panel: called when the selection has moved (with the
-  // button it left) and when the frame has been drawn again after a screen
-  // of the deck (with the selected button itself).
-  void (*onSelect)(DeckMenu& menu, int previous) = nullptr;
   // The cargo deck's menu leaves keys in the queue; all others flush.
   bool flushAfterKey = true;
   int selected = 1;

@@ -35,6 +35,11 @@ class Bunker {
     progress_ = 100.0;
   }
 
+  // One day of the crew's work: materials used at the crew's rate (half a
+  // day's work when they run out), progress made, built at 100. Returns the
+  // days still needed, 0 when finished today or due tomorrow.
+  std::int32_t buildOneDay();
+
   // Empties the bunker for a new game: its stores, craft, crew and bombs,
   // and it is no longer built. The site and the work done stay.
   void clear();

@@ -20,7 +20,7 @@ constexpr int kPanelColour = 15;
 constexpr int kPanelWidth = 34;  // up to the buttons' edge at column 38
 
 // The capsule count stands beside the menu while its button is selected.
-void drawCapsulePanel(DeckMenu& menu, int) {
+void drawCapsulePanel(DeckMenu& menu) {
   if (menu.selected == kCapsuleButton) {
     Console::putText("Ready Space Capsules:", kPanelColumn, kPanelRow, kPanelColour);
     Console::putNumber(theMothership().readyCapsules(), 26, kPanelRow, kPanelColour);

@@ -3,19 +3,18 @@
 #include <cassert>
 
 #include "game/planet/planet.h"
-#include "game/shell/mothership.h"
 
 namespace {
 
 bool isLocation(std::int32_t location) {
-  return location >= kShipLocation && location <= kLastLocation;
+  return location >= kMothershipLocation && location <= kLastLocation;
 }
 
 }  // namespace
 
 bool locationName(std::int32_t location, std::string& name) {
   assert(isLocation(location));
-  if (location == kShipLocation) {
+  if (location == kMothershipLocation) {
     name = "Mothership";
     return true;
   }
@@ -31,21 +30,9 @@ std::string_view craftName(std::int32_t location, std::int32_t row) {
   return aircraftAt(location).at(row).getName();
 }
 
-AircraftList& aircraftAt(std::int32_t location) {
-  assert(isLocation(location));
-  if (location == kShipLocation) return theMothership().aircraft();
-  return thePlanet().sector(location).bunker().getAircraft();
-}
-
-CrewList& crewAt(std::int32_t location) {
-  assert(isLocation(location));
-  if (location == kShipLocation) return theMothership().crew();
-  return thePlanet().sector(location).bunker().getCrew();
-}
-
 LocationTable::LocationTable() {
   std::string name;
-  for (std::int32_t location = kShipLocation; location <= kLastLocation; ++location) {
+  for (std::int32_t location = kMothershipLocation; location <= kLastLocation; ++location) {
     if (!locationName(location, name)) continue;
     ListRow row;
     row.text.assign(name);

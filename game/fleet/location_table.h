@@ -9,11 +9,7 @@
 #include <vector>
 
 #include "game/console/list_box.h"
-#include "game/crew/crew_list.h"
-#include "game/fleet/aircraft.h"
-
-inline constexpr std::int32_t kShipLocation = 0;
-inline constexpr std::int32_t kLastLocation = 24;
+#include "game/fleet/locations.h"
 
 // "Mothership" for 0, "Bunker " and the sector's letter for a sector whose
 // bunker is built; false for any other sector.
@@ -21,10 +17,6 @@ bool locationName(std::int32_t location, std::string& name);
 
 // The name of the craft at that row of the location's list.
 std::string_view craftName(std::int32_t location, std::int32_t row);
-
-// The craft and the crew standing at a location.
-AircraftList& aircraftAt(std::int32_t location);
-CrewList& crewAt(std::int32_t location);
 
 // Built afresh each time a screen opens: row 0 the ship, then the built
 // bunkers in sector order.

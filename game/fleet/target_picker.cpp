@@ -19,14 +19,11 @@ constexpr int kMapColumn = 15;
 constexpr int kMapRow = 1;
 constexpr int kDockColumn = kMapColumn + 16;
 constexpr int kDockRow = kMapRow + 17;
-constexpr int kWarFrameColour = 48;
 constexpr int kTitleColour = 62;
 constexpr int kLetterPlain = 15;
 constexpr int kLetterBunker = 14;
 constexpr int kTargetColour = 14;
 constexpr int kHereColour = 13;
-
-bool isSector(int place) { return place >= 1 && place <= kSectorCount; }
 
 int letterColour(int sector) {
   return thePlanet().sector(sector).bunker().isBuilt() ? kLetterBunker : kLetterPlain;
@@ -89,7 +86,7 @@ int targetCursorAfter(int cursor, int virtualKey, bool& cameThroughLeft) {
 }
 
 bool pickTarget(std::int32_t location, std::int32_t craftRow, bool anySector) {
-  assert(location >= kShipLocation && location <= kLastLocation);
+  assert(location >= kMothershipLocation && location <= kLastLocation);
   Aircraft& craft = aircraftAt(location).at(craftRow);
   drawFrame(kWarFrameColour, false);
   Console::putText("SELECT A TARGET SECTOR FOR THIS AIRCRAFT", 20, 0, kTitleColour);
@@ -97,10 +94,10 @@ bool pickTarget(std::int32_t location, std::int32_t craftRow, bool anySector) {
     drawSectorCell(n, cellColumn(kMapColumn, n), cellRow(kMapRow, n), kBorderAtRest,
                    letterColour(n));
   }
-  drawDockBox(kDockColumn, kDockRow, location == kShipLocation ? kBorderLit : kBorderAtRest);
+  drawDockBox(kDockColumn, kDockRow, location == kMothershipLocation ? kBorderLit : kBorderAtRest);
   if (isSector(location)) drawPlace(kMapColumn, kMapRow, location, kBorderLit);
 
-  int cursor = location == kShipLocation ? kOrbitCursor : location;
+  int cursor = location == kMothershipLocation ? kOrbitCursor : location;
   bool cameThroughLeft = true;
   // Any earlier aim is forgotten.
   craft.setDestination(location);
@@ -120,7 +117,7 @@ bool pickTarget(std::int32_t location, std::int32_t craftRow, bool anySector) {
         }
       } else if (key.ascii == kKeyEnter) {
         if (cursor == kOrbitCursor) {
-          craft.setDestination(kShipLocation);
+          craft.setDestination(kMothershipLocation);
         } else if (anySector || thePlanet().sector(cursor).bunker().isBuilt()) {
           craft.setDestination(cursor);
         }

@@ -8,6 +8,7 @@
 #include "game/console/list_box.h"
 #include "game/console/widgets.h"
 #include "game/fleet/docking_bay.h"
+#include "game/fleet/locations.h"
 #include "game/fleet/pane_box.h"
 #include "game/planet/planet.h"
 #include "game/shell/mothership.h"
@@ -24,8 +25,6 @@ constexpr int kListColumn = 4;
 constexpr int kListRow = 6;
 constexpr int kListWidth = 20;
 constexpr int kListRows = 12;
-
-bool isSector(std::int32_t location) { return location >= 1 && location <= kSectorCount; }
 
 std::string sectorLetter(std::int32_t location) {
   return isSector(location) ? std::string(1, thePlanet().sector(location).letter()) : "";

@@ -6,6 +6,7 @@
 #include "game/shell/day.h"
 #include "game/shell/endings.h"
 #include "game/shell/mothership.h"
+#include "game/shell/status_bar.h"
 
 namespace {
 
@@ -51,6 +52,40 @@ MenuResult showPersonnel() {
   return MenuResult::Redraw;
 }
 
+// Keys that stand nowhere on the screen: craft, capsules, stores and crew
+// come aboard at once. What does not fit is dropped without a word.
+constexpr std::int32_t kStoreGift = 400;
+
+void addCraft(std::int32_t type) {
+  Mothership& ship = theMothership();
+  ship.aircraft().add(type, ship.dockRoomLeft(), 0);
+}
+
+void onHiddenKey(const KeyEvent& key) {
+  Mothership& ship = theMothership();
+  switch (key.ascii) {
+    case '5': addCraft(kSaucerTransport); break;
+    case '6': addCraft(kCargoBarge); break;
+    case '7': addCraft(kStealthFighter); break;
+    case '8': addCraft(kHulkBomber); break;
+    case 'k': ship.addCapsules(1); break;
+    case 'd':
+      ship.addFood(kStoreGift);
+      refreshFood(kDeckFrameColour);
+      break;
+    case 'h':
+      ship.addFuel(kStoreGift);
+      refreshFuel(kDeckFrameColour);
+      break;
+    case 'r':
+      ship.addMaterials(kStoreGift);
+      refreshMaterials(kDeckFrameColour);
+      break;
+    case 'v': ship.crew().add(kRacePovolnian, 0); break;
+    default: break;
+  }
+}
+
 }  // namespace
 
 void runLibraryDeck() {
@@ -62,5 +97,6 @@ void runLibraryDeck() {
     if (button == kPersonnelButton) return showPersonnel();
     return MenuResult::Stay;
   };
+  menu.onOtherKey = onHiddenKey;
   showMenu(menu);
 }

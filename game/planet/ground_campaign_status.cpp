@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kMapColumn = 2;
 constexpr int kMapRow = 1;
-constexpr int kWarFrameColour = 48;
 constexpr int kBuiltLetterColour = 14;
 
 void drawPanel(int cursor) {

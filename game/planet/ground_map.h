@@ -12,6 +12,9 @@
 
 inline constexpr int kOrbitCursor = 407;
 
+// The frame of the war's screens (the maps, the cannon, the pickers).
+inline constexpr int kWarFrameColour = 48;
+
 // Border colours: at rest and highlighted.
 inline constexpr int kBorderAtRest = 2;
 inline constexpr int kBorderLit = 12;

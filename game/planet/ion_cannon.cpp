@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr int kWarFrameColour = 48;
 constexpr int kHiddenFuel = 100000;
 constexpr int kChargeStepMs = 500;
 constexpr int kFireMs = 250;

@@ -17,7 +17,6 @@ namespace {
 
 constexpr int kMapColumn = 15;
 constexpr int kMapRow = 1;
-constexpr int kWarFrameColour = 48;
 constexpr int kDestinationColour = 14;
 constexpr int kCurrentColour = 13;
 

@@ -9,6 +9,7 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstdint>
 #include <string_view>
 
@@ -67,8 +68,14 @@ class Sector {
   int column() const { return static_cast<int>(number_ - 1) % kMapColumns; }
   int row() const { return static_cast<int>(number_ - 1) / kMapColumns; }
 
-  SubSector& subSector(int k) { return subSectors_[k / 4][k % 4]; }
-  const SubSector& subSector(int k) const { return subSectors_[k / 4][k % 4]; }
+  SubSector& subSector(int k) {
+    assert(k >= 0 && k < kSubSectorCount);
+    return subSectors_[k / 4][k % 4];
+  }
+  const SubSector& subSector(int k) const {
+    assert(k >= 0 && k < kSubSectorCount);
+    return subSectors_[k / 4][k % 4];
+  }
   Bunker& bunker() { return bunker_; }
   const Bunker& bunker() const { return bunker_; }
 
@@ -92,9 +99,16 @@ class Planet {
   // Built from the world table.
   Planet();
 
-  Sector& sector(int number) { return sectors_[static_cast<std::size_t>(number - 1)]; }
-  const Sector& sector(int number) const { return sectors_[static_cast<std::size_t>(number - 1)]; }
+  Sector& sector(int number) {
+    assert(number >= 1 && number <= kSectorCount);
+    return sectors_[static_cast<std::size_t>(number - 1)];
+  }
+  const Sector& sector(int number) const {
+    assert(number >= 1 && number <= kSectorCount);
+    return sectors_[static_cast<std::size_t>(number - 1)];
+  }
   Sector& sectorAt(int row, int column) {
+    assert(row >= 0 && row < kMapRows && column >= 0 && column < kMapColumns);
     return sectors_[static_cast<std::size_t>(row * kMapColumns + column)];
   }
   SubSector& subSector(int number, int k) { return sector(number).subSector(k); }

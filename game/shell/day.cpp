@@ -1,6 +1,9 @@
 #include "game/shell/day.h"
 
+#include "game/fleet/bunker_days.h"
+#include "game/fleet/flight_operations.h"
 #include "game/messages/message_log.h"
+#include "game/planet/battle.h"
 #include "game/planet/planet.h"
 #include "game/shell/endings.h"
 #include "game/shell/mothership.h"
@@ -90,8 +93,11 @@ void runDay() {
   warnOfFamine(ship);
   ship.updateMorale();
   postMoraleNews(ship, log);
-  // The bunkers' meals, the craft's flights and missions, the building of
-  // bunkers and the raids take their turns here, before the ship moves.
+  runBunkerMeals();
+  moveCraft();
+  runSaucerMissions();
+  runBunkerConstruction();
+  resolveRaids();
   ship.moveOneDay();
   postFuelNews(ship, log);
   testForTheEnd(ship);

@@ -39,7 +39,10 @@ class Mothership {
   std::int32_t dockSpaceUsed() const;
 
   // A store that would pass the largest number it can hold stays there.
-  void addFood(std::int32_t amount) { food_ += static_cast<std::uint32_t>(amount); }
+  void addFood(std::int32_t amount) {
+    std::int64_t sum = static_cast<std::int64_t>(food_) + amount;
+    food_ = sum > UINT32_MAX ? UINT32_MAX : sum < 0 ? 0 : static_cast<std::uint32_t>(sum);
+  }
   void addFuel(std::int32_t amount) { fuel_ = saturatingAdd(fuel_, amount); }
   void addMaterials(std::int32_t amount) { materials_ = saturatingAdd(materials_, amount); }
   void addArtifacts(std::int32_t amount) { artifacts_ = saturatingAdd(artifacts_, amount); }

@@ -5,11 +5,15 @@
 #include <string_view>
 
 #include "game/art/ship.h"
+#include "game/cargo/cargo_deck.h"
 #include "game/console/console.h"
+#include "game/crew/living_quarters.h"
 #include "game/fleet/docking_bay.h"
+#include "game/freighter/super_freighter.h"
 #include "game/messages/library_deck.h"
 #include "game/planet/navigation.h"
 #include "game/research/engineering_deck.h"
+#include "game/research/research_station.h"
 #include "game/shell/mothership.h"
 #include "game/shell/status_bar.h"
 
@@ -70,8 +74,14 @@ constexpr int kMoves[kDeckCount][4] = {
 // not aboard yet only flashes.
 using DeckRoutine = void (*)();
 constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
-    runNavigationDeck, runLibraryDeck, nullptr,       runEngineeringDeck,
-    nullptr,           nullptr,        runDockingBay, nullptr,
+    runNavigationDeck,   // NAV COM
+    runLibraryDeck,      // LIBRARY
+    runResearchStation,  // SCIENTIFIC RESEARCH STATION
+    runEngineeringDeck,  // ENGINEERING
+    runLivingQuarters,   // LIVING QUARTERS
+    runCargoDeck,        // CARGO SPACE
+    runDockingBay,       // DOCKING BAY
+    runFreighter,        // SUPER FREIGHTER
 };
 
 // The plain drawing with the rooms' cells blanked: the hull under the shield.

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "game/console/random.h"
 #include "game/crew/crew_list.h"
 #include "game/fleet/aircraft.h"
 #include "game/planet/planet.h"
@@ -15,21 +16,6 @@ constexpr int kAdvisorCount = 9;
 constexpr std::int32_t kStartingFleet[] = {kSaucerTransport, kCargoBarge, kStealthFighter,
                                            kHulkBomber};
 
-// The crew of a game begun again in the same run: a group of one race, the
-// sex of each member in turn.
-struct CrewGroup {
-  std::int32_t race;
-  int count;
-  std::uint8_t sexes[11];
-};
-
-constexpr CrewGroup kResetCrew[] = {
-    {kRacePovolnian, 11, {1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}},
-    {kRacePovolnian, 9, {0, 0, 0, 0, 0, 0, 0, 0, 0}},
-    {kRaceMududu, 5, {0, 1, 0, 1, 0}},
-    {kRaceUberfleck, 5, {0, 0, 1, 0, 0}},
-};
-
 // Each craft is built against the dock room left at that moment; one that
 // does not fit is left out.
 void boardStartingFleet() {
@@ -37,11 +23,23 @@ void boardStartingFleet() {
   for (std::int32_t type : kStartingFleet) ship.aircraft().add(type, ship.dockRoomLeft(), 0);
 }
 
+// The start-up crew: 20 Povolnians of either sex, then Mududus, Uberflecks
+// and Makos of set sexes.
+void boardStartingCrew() {
+  CrewList& crew = theMothership().crew();
+  for (int i = 0; i < 20; ++i) crew.add(kRacePovolnian, static_cast<std::uint8_t>(gameRand() % 2));
+  for (std::uint8_t sex : {0, 1, 0, 1, 0}) crew.add(kRaceMududu, sex);
+  for (std::uint8_t sex : {1, 0, 1, 0, 1}) crew.add(kRaceUberfleck, sex);
+  for (std::uint8_t sex : {1, 0, 1}) crew.add(kRaceMako, sex);
+}
+
+// A new game's crew: 30, the Povolnians' sexes set.
 void boardResetCrew() {
   CrewList& crew = theMothership().crew();
-  for (const CrewGroup& group : kResetCrew) {
-    for (int i = 0; i < group.count; ++i) crew.add(group.race, group.sexes[i]);
-  }
+  for (int i = 0; i < 11; ++i) crew.add(kRacePovolnian, 1);
+  for (int i = 0; i < 9; ++i) crew.add(kRacePovolnian, 0);
+  for (std::uint8_t sex : {0, 1, 0, 1, 0}) crew.add(kRaceMududu, sex);
+  for (std::uint8_t sex : {0, 0, 1, 0, 0}) crew.add(kRaceUberfleck, sex);
 }
 
 void boardAdvisors() {
@@ -52,7 +50,7 @@ void boardAdvisors() {
 
 void layStartingContents() {
   boardStartingFleet();
-  // The start-up crew (33) board here, between the craft and the advisors.
+  boardStartingCrew();
   boardAdvisors();
 }
 

@@ -5,8 +5,10 @@
 #include <set>
 #include <string>
 
+#include "game/art/freighter.h"
 #include "game/art/ion_feed.h"
 #include "game/art/land_tiles.h"
+#include "game/art/living_quarters.h"
 #include "game/art/portraits.h"
 #include "game/art/ship.h"
 #include "game/art/title.h"
@@ -33,12 +35,21 @@ TEST(Pictures, SoundSizedInTheirColoursAndGlyphs) {
   const Case cases[] = {
       {kShipPicture, 80, 19, {}},
       {kFreighterRoomPicture, 19, 3, {}},
+      {kFreighterHull, 80, 23, {4, 8, 12, 15}},
+      {kFreighterSpots[0], 35, 6, {}},
+      {kFreighterSpots[1], 21, 6, {}},
+      {kFreighterSpots[2], 23, 7, {}},
+      {kFreighterSpots[3], 23, 4, {}},
+      {kFreighterSpots[4], 17, 4, {}},
+      {kFreighterSpots[5], 38, 8, {}},
       {kTitleTop, 70, 6, {}, kBoxDrawing},
       {kTitleMiddle, 43, 6, {}, kBoxDrawing},
       {kTitleTail, 16, 1, {}, kBoxDrawing},
       {kEmblem, 21, 5, {}, {' ', 219, 220, 223}},
       {kKryptalPortrait, 40, 17, {2, 4, 7, 10, 12, 14, 15}},
       {kCarollaPortrait, 40, 17, {2, 4, 6, 7, 11, 12, 13, 14}},
+      {kEmersonPicture, 39, 17, {2, 3, 6, 7, 9, 10, 12, 14, 15}},
+      {kCrewJobsBox, 74, 22, {}, kBoxDrawing},
       {kLandTiles[0], 9, 4, {32, 36, 38}},
       {kLandTiles[1], 9, 4, {112, 120, 126, 127}},
       {kLandTiles[2], 9, 4, {96, 98, 111, 112, 120}},

@@ -95,6 +95,36 @@ TEST_F(ListBoxTest, OddStatesAndEvents) {
   rows.clear();
   EXPECT_EQ(run("Down PgDn PgUp Up Enter"), -1) << "an empty list gives nothing";
   EXPECT_EQ(bar(kBox - 1), 254);
+  fill(4);
+  EXPECT_EQ(run("Enter"), 0) << "the list has rows again: the highlight is back on the first";
+  EXPECT_EQ(highlightedRow(), 0);
+}
+
+TEST_F(ListBoxTest, DisplayOnlyDrawsOnceWithoutAHighlightOrAKey) {
+  fill(20);
+  state = {6, 5};
+  scripted::addKeys("Down");
+  int result = 0;
+  scripted::run([&] {
+    result = ListBox::run(rows.data(), kColumn, kRow, kWidth, kBox, 20, true, state, true, true);
+  });
+  EXPECT_EQ(result, kListEscape);
+  EXPECT_EQ(scripted::stepsLeft(), 1) << "no key read";
+  EXPECT_EQ(highlightedRow(), -1);
+  EXPECT_EQ(scripted::textAt(kColumn, kRow, 5), "row 6");
+  EXPECT_EQ(scripted::textAt(kColumn, kRow + kBox - 1, 6), "row 18");
+  EXPECT_EQ(bar(kBox - 1), 25) << "more below";
+  EXPECT_EQ(bar(7), 254) << "row 11 of 20";
+  EXPECT_EQ(state.top, 6);
+  EXPECT_EQ(state.cursor, 5);
+  // A list that shrank under a kept state: the highlight comes to its end.
+  state = {0, 13};
+  fill(4);
+  scripted::run([&] {
+    result = ListBox::run(rows.data(), kColumn, kRow, kWidth, kBox, 4, true, state, true, true);
+  });
+  EXPECT_EQ(state.cursor, 3);
+  EXPECT_EQ(scripted::textAt(kColumn, kRow + 4, kWidth), std::string(kWidth, ' '));
 }
 
 }  // namespace

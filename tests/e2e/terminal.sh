@@ -44,7 +44,7 @@ pane() { t display-message -p -t game "$1"; }
 # library keeps its terminal description until the process ends; that is
 # not a leak worth a report on the terminal.
 start() {
-  t new-session -d -s game -x 80 -y 25 "trap true INT; before=\$(stty -g);
+  t new-session -d -s game -x 80 -y 25 -c "${workdir:-$PWD}" "trap true INT; before=\$(stty -g);
     env TERM=xterm-256color ASAN_OPTIONS=detect_leaks=0 '$bin'; code=\$?;
     [ \"\$before\" = \"\$(stty -g)\" ] && echo MODES-RESTORED; echo EXITED-\$code; sleep 60"
 }
@@ -130,6 +130,38 @@ ended 1 || fail "Ctrl+C did not end the game within a second"
 restored
 t kill-session -t game
 
+# Thirty days ended in orbit bring the Super Freighter: its room opens under
+# the Library, Escape does nothing aboard, a front lights up, and Enter on the
+# Mothership goes back to the map. A "d" in the Library keeps the crew fed.
+start
+wait_for "NEW GAME"
+key Enter
+wait_for "DAY:    1"
+keys Right Down
+wait_for " LIBRARY:"
+for day in $(seq 2 31); do
+  key Enter
+  wait_for "End Turn Factor 6"
+  keys d Down Enter
+  wait_for "End Day?"
+  key y
+  sleep 0.2
+  screen | grep -qF "Good Morning" && key Escape
+  wait_for "DAY: $(printf '%4d' "$day")"
+done
+key Down
+wait_for " SUPER FREIGHTER:"
+key Enter
+wait_for "SAL'S  SELECT  SPACECRAFT"
+key Escape
+screen | grep -qF "MERCENARY    MARKET" || fail "Escape left the Super Freighter"
+key Up
+t capture-pane -e -p -t game | sed -n 10p | grep -qE $'\e\\[(1;)?(33|93|38;5;11)m[^\e]*BOB' ||
+  fail "the bazaar is not lit yellow"
+keys Down Enter
+wait_for " SUPER FREIGHTER:"
+t kill-session -t game
+
 # SIGTERM, as when the system shuts down, also leaves the terminal as it was.
 start
 wait_for "NEW GAME"
@@ -138,4 +170,31 @@ game=$(pgrep -P "$(pane '#{pane_pid}')" | head -n 1)
 kill -TERM "$game"
 ended 1 || fail "SIGTERM did not end the game"
 restored
+t kill-session -t game
+# The hold: artifacts named from artifacts.txt in the working directory, a
+# high byte shown as its glyph; then the Library's hidden fuel key.
+workdir=$(mktemp -d)
+trap 't kill-server >/dev/null 2>&1; rm -rf "$workdir"' EXIT
+printf 'Caf\xe9 Relic of Mars\r\nSecond line\n' >"$workdir/artifacts.txt"
+start
+wait_for "NEW GAME"
+key Enter
+wait_for " NAVIGATION:"
+keys Right Right
+wait_for " CARGO:"
+key Enter
+wait_for "View your Artifacts"
+key Enter
+wait_for "Total Artifacts: 5"
+[ "$(screen | grep -c "CafΘ Relic of Mars ")" = 5 ] || fail "five artifacts named from the file"
+keys Escape Escape
+wait_for " CARGO:"
+keys Left Down
+wait_for " LIBRARY:"
+key Enter
+wait_for "End Turn Factor 6"
+key h
+wait_for "FUEL: 150,400"
+t kill-session -t game
+
 echo "PASS: the title and the ship map in a real terminal"

@@ -110,21 +110,22 @@ TEST_F(DockingBayTest, AFullLocationTakesNobodyBack) {
   EXPECT_EQ(ship.crew().getCount(), kShipCrewCapacity);
   EXPECT_EQ(races(fighter().getCrew()), "4");
   EXPECT_EQ(scripted::colourAt(57, 2), 225) << "ONBOARD still active";
-  EXPECT_EQ(scripted::textAt(57, 4, 18), padded(std::string(raceName(kRaceUberfleck)), 18));
+  EXPECT_EQ(scripted::textAt(57, 4, 18), padded(std::string(fighter().getCrew().at(0).name()), 18));
 }
 
 TEST_F(DockingBayTest, LeavingTheLocationWipesOnboardUntilTheNextCursorKey) {
   fighter().getCrew().add(kRaceUberfleck, 0);
   ship.aircraft().at(0).getCrew().add(kRaceMududu, 0);
   EXPECT_FALSE(play(loadCargoAndCrew, "Right Down Down"));
-  EXPECT_EQ(scripted::textAt(57, 4, 18), padded(std::string(raceName(kRaceUberfleck)), 18));
+  EXPECT_EQ(scripted::textAt(57, 4, 18), padded(std::string(fighter().getCrew().at(0).name()), 18));
   EXPECT_EQ(scripted::colourAt(19, 2), 225);
   EXPECT_FALSE(play(loadCargoAndCrew, "Right Down Down Left Right"));
   EXPECT_EQ(scripted::textAt(57, 4, 18), padded("", 18)) << "blank until a cursor key";
   EXPECT_EQ(scripted::textAt(19, 4, 16), padded("Saucer Transport", 16)) << "cursor back on top";
   EXPECT_EQ(scripted::colourAt(4, 4), 241) << "the location stays chosen";
   EXPECT_FALSE(play(loadCargoAndCrew, "Right Down Down Left Right Down Up"));
-  EXPECT_EQ(scripted::textAt(57, 4, 18), padded(std::string(raceName(kRaceMududu)), 18));
+  EXPECT_EQ(scripted::textAt(57, 4, 18),
+            padded(std::string(ship.aircraft().at(0).getCrew().at(0).name()), 18));
 }
 
 TEST_F(DockingBayTest, OnlyTheShipAndBuiltBunkersAreLocations) {

@@ -66,4 +66,61 @@ TEST_F(LibraryDeckTest, FromTheTitleToTheSecondDay) {
   EXPECT_EQ(scripted::colourAt(15, 10), 14) << "the Library room is selected";
 }
 
+TEST_F(LibraryDeckTest, HiddenKeysBringThingsAboardAtOnce) {
+  Mothership& ship = theMothership();
+  ship.aircraft().clear();
+  ship.crew().clear();
+  play("Down");
+  const std::string before = scripted::dump();
+  EXPECT_FALSE(play("Down 5 6 7 8 k v Idle:1"));
+  ASSERT_EQ(ship.aircraft().count(), 4);
+  const int types[4] = {0, 3, 1, 2};
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(ship.aircraft().at(i).getType(), types[i]) << i;
+    EXPECT_EQ(ship.aircraft().at(i).getLocation(), 0);
+  }
+  EXPECT_EQ(ship.readyCapsules(), 3);
+  ASSERT_EQ(ship.crew().getCount(), 1);
+  EXPECT_EQ(ship.crew().at(0).getRace(), 1);
+  EXPECT_EQ(ship.crew().at(0).getSex(), 0);
+  EXPECT_EQ(scripted::dump(), before) << "nothing shown, End Turn still selected";
+
+  // The stores, each in its own place on the status bar, in the deck's colour.
+  EXPECT_FALSE(play("d h h r r r"));
+  EXPECT_EQ(ship.food(), 1400u);
+  EXPECT_EQ(ship.fuel(), 150800);
+  EXPECT_EQ(ship.materials(), 11200);
+  EXPECT_EQ(scripted::textAt(0, 24, 78),
+            std::string(" \xDC    FUEL: 150,800           MATERIALS: 11,200            FOOD: "
+                        "1,400        "));
+  EXPECT_EQ(scripted::colourAt(65, 24), 78);
+  EXPECT_EQ(scripted::colourAt(43, 4), 241) << "still on the first button";
+}
+
+TEST_F(LibraryDeckTest, HiddenKeysDropWhatDoesNotFit) {
+  Mothership& ship = theMothership();
+  ship.aircraft().clear();
+  ship.addCapsules(-ship.readyCapsules());
+  // 59 barges, a saucer and a fighter leave 30000: room for a fighter only.
+  for (int i = 0; i < 59; ++i) ship.aircraft().add(3, ship.dockRoomLeft(), 0);
+  ship.aircraft().add(0, ship.dockRoomLeft(), 0);
+  ship.aircraft().add(1, ship.dockRoomLeft(), 0);
+  ASSERT_EQ(ship.dockRoomLeft(), 30000);
+  EXPECT_FALSE(play("5 6 8"));
+  EXPECT_EQ(ship.aircraft().count(), 61);
+  EXPECT_FALSE(play("7"));
+  EXPECT_EQ(ship.aircraft().count(), 62) << "a craft that exactly fits is taken";
+  EXPECT_EQ(ship.dockRoomLeft(), 0);
+  EXPECT_FALSE(play("7 5"));
+  EXPECT_EQ(ship.aircraft().count(), 62);
+
+  ship.crew().clear();
+  for (int i = 0; i < 249; ++i) ship.crew().add(3, 0);
+  EXPECT_FALSE(play("v"));
+  EXPECT_EQ(ship.crew().getCount(), 250);
+  EXPECT_FALSE(play("v v"));
+  EXPECT_EQ(ship.crew().getCount(), 250);
+  EXPECT_EQ(ship.crew().at(249).getRace(), 1);
+}
+
 }  // namespace

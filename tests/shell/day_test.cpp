@@ -37,7 +37,10 @@ class DayTest : public ::testing::Test {
 
 TEST_F(DayTest, TheSuperFreightersCalendar) {
   News byDay[40];
-  for (int day = 2; day <= 38; ++day) byDay[day] = endDay();
+  for (int day = 2; day <= 38; ++day) {
+    ship.setFood(1000);  // no famine news in the way
+    byDay[day] = endDay();
+  }
   EXPECT_EQ(globals().day, 38);
   EXPECT_TRUE(byDay[27].empty());
   EXPECT_EQ(byDay[28], News{"The Super Freighter will arrive in orbit in 3 days!"});
@@ -45,7 +48,15 @@ TEST_F(DayTest, TheSuperFreightersCalendar) {
   EXPECT_EQ(byDay[31], News{"The Super Freighter has arrived in orbit!"});
   EXPECT_EQ(byDay[37], News{"The Super Freighter leaves tomorrow!"});
   EXPECT_TRUE(byDay[38].empty());
-  EXPECT_EQ(ship.food(), 1000u - 37 * 10);
+}
+
+TEST_F(DayTest, ANewGamesFoodFeeds43MouthsFor23Days) {
+  ASSERT_EQ(ship.crew().getCount() + static_cast<int>(ship.advisors().size()) + 1, 43);
+  for (int day = 2; day <= 24; ++day) EXPECT_TRUE(endDay().empty()) << day;
+  EXPECT_EQ(ship.food(), 1000u - 23 * 43);
+  EXPECT_EQ(endDay("x").front(), "Your mothership has run out of food!");  // with the warning
+  EXPECT_EQ(ship.food(), 0u);
+  EXPECT_EQ(ship.moraleWhole(), 85) << "the famine costs morale the same night";
 }
 
 TEST_F(DayTest, AFamineWarnsOnceAndEndsInTheCrewEatingTheCaptain) {

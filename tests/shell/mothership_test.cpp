@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+
+#include "game/console/random.h"
 #include "game/shell/starting_contents.h"
 #include "tests/support/fresh_game.h"
 
@@ -19,25 +23,39 @@ TEST_F(MothershipTest, StartsWithItsStoresAndNineAdvisors) {
   EXPECT_EQ(ship.advisors()[6].name.view(), "Kryptal");
   EXPECT_EQ(ship.cargoUsed(), 1000 + 150000 + 10000);
   EXPECT_EQ(ship.dockSpaceUsed(), 350000) << "four craft and two capsules";
+  // 33 crew, nine advisors and the captain eat; food for exactly one
+  // meal is no longer "more than the meal".
+  for (auto [before, after] : {std::pair{100u, 57u}, {44u, 1u}, {43u, 0u}, {42u, 0u}}) {
+    ship.setFood(before);
+    ship.eatFood();
+    EXPECT_EQ(ship.food(), after) << before;
+  }
+  ship.crew().clear();
   ship.setFood(100);
-  ship.eatFood();  // nine advisors and the captain
-  EXPECT_EQ(ship.food(), 90u);
-  ship.setFood(10);
   ship.eatFood();
-  EXPECT_EQ(ship.food(), 0u);
+  EXPECT_EQ(ship.food(), 90u) << "the crew, not a fixed count, sits at the table";
 }
 
 TEST_F(MothershipTest, MoraleFollowsTheScheduleOrTheFamineWithinItsBounds) {
-  const float after[5] = {100, 100, 100, 97, 85};
+  // From 50, where no bound hides a wrong step.
+  const float after[5] = {55, 51, 50, 47, 35};
   for (int schedule = 0; schedule < 5; ++schedule) {
-    ship.setMorale(100);
+    ship.setMorale(50);
     ship.setWorkSchedule(schedule);
     ship.updateMorale();
     EXPECT_EQ(ship.morale(), after[schedule]) << schedule;
   }
-  ship.setMorale(10);
+  ship.setMorale(100);
+  for (int morale : {85, 70, 55, 40, 25, 10, 0}) {
+    ship.updateMorale();
+    EXPECT_EQ(ship.moraleWhole(), morale) << "schedule 4 from a full ship: 0 on the seventh day";
+  }
   ship.updateMorale();
-  EXPECT_EQ(ship.morale(), 0) << "schedule 4 stops at 0";
+  EXPECT_EQ(ship.morale(), 0) << "and it stays at 0";
+  ship.setMorale(98);
+  ship.setWorkSchedule(0);
+  ship.updateMorale();
+  EXPECT_EQ(ship.morale(), 100) << "a party stops at 100";
   ship.setMorale(50);
   ship.setWorkSchedule(0);
   ship.setFood(0);
@@ -54,6 +72,9 @@ TEST_F(MothershipTest, ChargesStopAtZeroAndAddsAtTheTop) {
   ship.setFuel(INT32_MAX - 5);
   ship.addFuel(100000);
   EXPECT_EQ(ship.fuel(), INT32_MAX);
+  ship.setFood(UINT32_MAX - 5);
+  ship.addFood(400);
+  EXPECT_EQ(ship.food(), UINT32_MAX) << "food stops at the top too, never wraps to nothing";
 }
 
 TEST_F(MothershipTest, ANewGameResetsTheShipButKeepsTheScheduleAndTheLand) {
@@ -72,6 +93,38 @@ TEST_F(MothershipTest, ANewGameResetsTheShipButKeepsTheScheduleAndTheLand) {
   EXPECT_EQ(ship.workSchedule(), 4);
   EXPECT_EQ(ship.advisors().size(), 9u) << "cleared and boarded again, not doubled";
   EXPECT_EQ(globals().day, 1);
+}
+
+TEST_F(MothershipTest, TheStartUpCrewAndTheNewGamesCrew) {
+  // Each Povolnian's sex is drawn before the six draws of its name.
+  seedRandom(99);
+  int draws[8];
+  for (int& d : draws) d = gameRand();
+  ship.crew().clear();
+  seedRandom(99);
+  layStartingContents();
+  const CrewList& crew = ship.crew();
+  ASSERT_EQ(crew.getCount(), 33);
+  EXPECT_EQ(crew.at(0).getSex(), draws[0] % 2);
+  EXPECT_EQ(crew.at(1).getSex(), draws[7] % 2);
+  auto races = [&] {
+    std::string out;
+    for (int i = 0; i < crew.getCount(); ++i) {
+      out += static_cast<char>('0' + crew.at(i).getRace());
+      if (crew.at(i).getRace() != kRacePovolnian)
+        out += static_cast<char>('0' + crew.at(i).getSex());
+    }
+    return out;
+  };
+  EXPECT_EQ(races(), std::string(20, '1') + "6061606160" + "4140414041" + "313031");
+  resetGame();
+  EXPECT_EQ(crew.getCount(), 30);
+  std::string povolnianSexes;
+  for (int i = 0; i < 20; ++i) povolnianSexes += static_cast<char>('0' + crew.at(i).getSex());
+  EXPECT_EQ(povolnianSexes, std::string(11, '1') + std::string(9, '0'));
+  EXPECT_EQ(races().substr(20),
+            "6061606160"
+            "4040414040");
 }
 
 }  // namespace

@@ -20,6 +20,8 @@ class WholeGameTest : public ::testing::Test {
   void SetUp() override {
     startFreshRun();
     scripted::setPlayer([this](KeyEvent& key) {
+      // This game is about the cannon: the larder is kept full.
+      theMothership().setFood(1000);
       if (scripted::rowText(2).rfind("  Corolla says, 'Good Morning captain", 0) == 0) {
         ++reportsRead;
         key = KeyEvent::escape();
