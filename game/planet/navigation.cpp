@@ -22,9 +22,9 @@ constexpr int kCurrentColour = 13;
 
 int orbitOrSector(int place) { return place == kOrbitCursor ? 0 : place; }
 
-// Four pointers round a sector's letter, or five above and below the orbit
-// box's letters.
-void drawMarks(int place, int colour) {
+}  // namespace
+
+void drawMapMarks(int place, int colour) {
   if (place == 0 || place == kOrbitCursor) {
     for (int i = 0; i < 5; ++i) {
       Console::putChar(30, kMapColumn + 18 + 3 * i, kMapRow + 17, colour);
@@ -41,14 +41,16 @@ void drawMarks(int place, int colour) {
   Console::putChar(31, c + 4, r + 3, colour);
 }
 
+namespace {
+
 // The map's terrain, the ship's marks and the destination panel: drawn on
 // entering and after each choice of destination.
 void drawNavigationState() {
   const Mothership& ship = theMothership();
   drawMapTerrain(kMapColumn, kMapRow);
-  drawMarks(0, 0);
-  drawMarks(ship.destinationSector(), kDestinationColour);
-  drawMarks(ship.currentSector(), kCurrentColour);
+  drawMapMarks(0, 0);
+  drawMapMarks(ship.destinationSector(), kDestinationColour);
+  drawMapMarks(ship.currentSector(), kCurrentColour);
   Console::putText("Mothership's Destination", 49, 18, 15);
   if (ship.currentSector() != ship.destinationSector()) {
     for (int row = 19; row <= 21; ++row) Console::putText(std::string(28, ' '), 49, row, 14);

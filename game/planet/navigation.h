@@ -20,6 +20,11 @@ int travelFuel(int from, int to);
 // "ETA:" and "Fuel Req:" for a trip from where the ship is to `place`.
 void drawTravelFigures(int column, int row, int place);
 
+// Four pointers round a sector's letter, or five above and below the
+// letters of the orbit (or dock) box, on a map at (15, 1). Place 0 or the
+// orbit cursor is the box.
+void drawMapMarks(int place, int colour);
+
 // Where the Navigate cursor goes from `cursor` on an arrow. `cameThrough`
 // remembers by which sector (3, 4, 21 or 22) the cursor entered the orbit
 // box, to leave it by the same side.

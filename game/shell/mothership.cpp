@@ -1,5 +1,7 @@
 #include "game/shell/mothership.h"
 
+#include <utility>
+
 namespace {
 // What the day's work schedule (0 to 4) does to morale.
 constexpr float kScheduleMorale[5] = {5.0f, 1.0f, 0.0f, -3.0f, -15.0f};
@@ -57,17 +59,17 @@ void Mothership::updateMorale() {
 }
 
 void Mothership::reset() {
+  // A whole new ship, so that no field of a new game can be missed; then
+  // what a new game keeps is carried over by name: the work schedule and
+  // the lists, which the new-game reset empties and fills itself.
   Mothership fresh;
-  food_ = fresh.food_;
-  fuel_ = fresh.fuel_;
-  materials_ = fresh.materials_;
-  artifacts_ = fresh.artifacts_;
-  readyCapsules_ = fresh.readyCapsules_;
-  currentSector_ = fresh.currentSector_;
-  destinationSector_ = fresh.destinationSector_;
-  morale_ = fresh.morale_;
-  engineLevel_ = fresh.engineLevel_;
-  shieldsOn_ = fresh.shieldsOn_;
+  fresh.aircraft_ = std::move(aircraft_);
+  fresh.crew_ = std::move(crew_);
+  fresh.advisors_ = std::move(advisors_);
+  fresh.bombs_ = std::move(bombs_);
+  fresh.eggs_ = std::move(eggs_);
+  fresh.workSchedule_ = workSchedule_;
+  *this = std::move(fresh);
 }
 
 void advanceDay() { ++globals().day; }

@@ -101,8 +101,8 @@ class Mothership {
   // The day's movement: one step toward the destination, and its fuel.
   void moveOneDay();
 
-  // Stores, place, morale, engine and shield back to a new game's; the work
-  // schedule and the lists stay.
+  // Every field back to a new game's first value but the work schedule and
+  // the lists, which stay as they are.
   void reset();
 
  private:

@@ -8,6 +8,7 @@
 #include "game/cargo/cargo_deck.h"
 #include "game/console/console.h"
 #include "game/crew/living_quarters.h"
+#include "game/fleet/docking_bay.h"
 #include "game/freighter/super_freighter.h"
 #include "game/messages/library_deck.h"
 #include "game/planet/navigation.h"
@@ -79,7 +80,7 @@ constexpr DeckRoutine kDeckRoutines[kDeckCount] = {
     runEngineeringDeck,  // ENGINEERING
     runLivingQuarters,   // LIVING QUARTERS
     runCargoDeck,        // CARGO SPACE
-    nullptr,             // DOCKING BAY
+    runDockingBay,       // DOCKING BAY
     runFreighter,        // SUPER FREIGHTER
 };
 

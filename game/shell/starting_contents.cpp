@@ -1,11 +1,27 @@
 #include "game/shell/starting_contents.h"
 
+#include <cstdint>
+
 #include "game/console/random.h"
+#include "game/crew/crew_list.h"
+#include "game/fleet/aircraft.h"
 #include "game/planet/planet.h"
 #include "game/shell/mothership.h"
 
 namespace {
+
 constexpr int kAdvisorCount = 9;
+
+// The ship's first fleet, in the order it is built.
+constexpr std::int32_t kStartingFleet[] = {kSaucerTransport, kCargoBarge, kStealthFighter,
+                                           kHulkBomber};
+
+// Each craft is built against the dock room left at that moment; one that
+// does not fit is left out.
+void boardStartingFleet() {
+  Mothership& ship = theMothership();
+  for (std::int32_t type : kStartingFleet) ship.aircraft().add(type, ship.dockRoomLeft(), 0);
+}
 
 // The start-up crew: 20 Povolnians of either sex, then Mududus, Uberflecks
 // and Makos of set sexes.
@@ -29,9 +45,11 @@ void boardResetCrew() {
 void boardAdvisors() {
   for (int id = 0; id < kAdvisorCount; ++id) theMothership().addAdvisor(id);
 }
+
 }  // namespace
 
 void layStartingContents() {
+  boardStartingFleet();
   boardStartingCrew();
   boardAdvisors();
 }
@@ -39,14 +57,19 @@ void layStartingContents() {
 void resetGame() {
   for (int n = 1; n <= kSectorCount; ++n) thePlanet().sector(n).bunker().clear();
   Mothership& ship = theMothership();
+  ship.aircraft().clear();
   ship.crew().clear();
   ship.advisors().clear();
+  ship.eggs().clear();
+  ship.bombs().clear();
   ship.reset();
+  boardStartingFleet();
   boardResetCrew();
   boardAdvisors();
-  GlobalValues& g = globals();
-  g.day = 1;
-  g.cosmicCredits = 5000;
-  g.gameOver = false;
-  g.freighterCountdown = 30;
+  // The calendar, the money and the game-over flag as a new run has them;
+  // the famine flag and the record that a game was played stay.
+  GlobalValues fresh;
+  fresh.lowFoodWarned = globals().lowFoodWarned;
+  fresh.gamePlayed = globals().gamePlayed;
+  globals() = fresh;
 }

@@ -22,7 +22,7 @@ TEST_F(MothershipTest, StartsWithItsStoresAndNineAdvisors) {
   EXPECT_EQ(ship.advisors().size(), 9u);
   EXPECT_EQ(ship.advisors()[6].name.view(), "Kryptal");
   EXPECT_EQ(ship.cargoUsed(), 1000 + 150000 + 10000);
-  EXPECT_EQ(ship.dockSpaceUsed(), 80000) << "two capsules";
+  EXPECT_EQ(ship.dockSpaceUsed(), 350000) << "four craft and two capsules";
   // 33 crew, nine advisors and the captain eat; food for exactly one
   // meal is no longer "more than the meal".
   for (auto [before, after] : {std::pair{100u, 57u}, {44u, 1u}, {43u, 0u}, {42u, 0u}}) {
