@@ -4,6 +4,7 @@
 
 #include "game/console/console.h"
 #include "game/console/widgets.h"
+#include "game/fleet/launch_space_capsule.h"
 #include "game/fleet/missions.h"
 #include "game/shell/mothership.h"
 
@@ -29,12 +30,12 @@ void drawCapsulePanel(DeckMenu& menu) {
   }
 }
 
+// With no capsule ready the button does nothing; the count of 0 says why.
 MenuResult launchCapsule() {
   if (theMothership().readyCapsules() == 0) return MenuResult::Stay;
-  // The launch screen is not aboard yet, and until it is the button does
-  // nothing. It will open here as the others do (clear the screen, run the
-  // screen, return Redraw); the menu then draws the capsule count again.
-  return MenuResult::Stay;
+  Console::clearScreen();
+  launchSpaceCapsule();
+  return MenuResult::Redraw;
 }
 
 MenuResult onDockingButton(DeckMenu&, int button) {
