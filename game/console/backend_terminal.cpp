@@ -2,22 +2,31 @@
 // ncursesw and reads its keys. The only file that knows about curses.
 //
 // Output: each cell's code page 437 code goes out as its Unicode character
-// (or an ASCII stand-in where the locale is not UTF-8), its colour as a
+// (or an ASCII stand-in where the locale is not UTF-8), its colour as the
+// terminal can show it with 16 colours, 8 or none (terminal_colours.h), in a
 // colour pair made on first use. Only cells that differ from what the
 // terminal already shows are handed to curses, so a screen that stands still
 // costs no output at all.
 //
 // Input: keys become the console's KeyEvents (virtual key and character).
-// Escape arrives after 25 ms. keyWaiting waits a little for a key, 1 ms while
-// the screen is moving and 20 ms once it has stood still for half a second,
-// so that the polling loops neither spin nor lag.
+// Escape arrives after 25 ms; Escape with a key at once is Alt with that key,
+// and counts as the key. Bytes that are no key are ignored. keyWaiting waits a little for a key, 1
+// ms while the screen is moving and 20 ms once it has stood still for half a second, so that the
+// polling loops neither spin nor lag.
+//
+// A change of the terminal's size, and a return from Ctrl+Z, repaint the whole
+// screen as soon as they happen, whatever the game is doing: waiting for a
+// key, polling, or sleeping in an animation.
 //
 // The terminal is put back as it was on every way out: the normal end, Ctrl+C,
-// SIGTERM, SIGHUP, SIGQUIT and the crash signals.
+// every signal that ends the process, and Ctrl+Z (until `fg`). Flow control
+// (Ctrl+S, Ctrl+Q) is off while the game runs. A terminal the game cannot
+// drive is refused at once with one line on standard error.
 // The game's headers come first: term.h defines macros (columns, lines)
 // that would clash with their names.
 #include "game/console/backend.h"
 #include "game/console/cp437.h"
+#include "game/console/terminal_colours.h"
 
 #ifndef NCURSES_WIDECHAR
 #define NCURSES_WIDECHAR 1
@@ -26,10 +35,12 @@
 #include <langinfo.h>
 #include <poll.h>
 #include <signal.h>
+#include <sys/ioctl.h>
 #include <term.h>
 #include <termios.h>
 #include <unistd.h>
 
+#include <cassert>
 #include <cerrno>
 #include <chrono>
 #include <clocale>
@@ -38,6 +49,7 @@
 #include <cstring>
 #include <ctime>
 #include <deque>
+#include <string>
 
 namespace {
 
@@ -57,39 +69,60 @@ constexpr char kSizeNotice[] = " Skarmada needs a terminal of 80x25 ";
 
 bool isOpen = false;
 bool utf8 = false;
-bool colours16 = false;
-bool anyColour = false;
+TerminalColours palette = TerminalColours::kNone;
 bool fullRepaint = true;
 Cell shown[kScreenHeight][kScreenWidth];
-short pairs[256];
+short pairs[256];  // by terminal foreground + 16 * background
 short nextPair = 1;
 std::deque<KeyEvent> pending;
 SteadyClock::time_point lastChange;
 SteadyClock::time_point lastEmptied;  // when the terminal last had no input left
 int passesSinceWait = 0;
 
-// What the signal handler writes to put the terminal back; prepared at open
-// so that the handler itself only calls write and tcsetattr.
-struct termios savedModes;
-bool haveSavedModes = false;
-char restoreSequence[256];
-std::size_t restoreLength = 0;
+// Set by the signal handlers, acted on by the game's own thread at the next
+// call into the backend, or at once if it is waiting or sleeping (the signal
+// interrupts the wait).
+volatile sig_atomic_t sizeChanged = 0;
 
-void appendRestore(const char* capability) {
-  char* value = tigetstr(const_cast<char*>(capability));
-  if (value == nullptr || value == reinterpret_cast<char*>(-1)) return;
-  std::size_t n = std::strlen(value);
-  if (restoreLength + n >= sizeof restoreSequence) return;
-  std::memcpy(restoreSequence + restoreLength, value, n);
-  restoreLength += n;
-}
+// What the signal handlers write to put the terminal back, and to take it
+// again after Ctrl+Z; prepared at open so that the handlers themselves only
+// call write and tcsetattr.
+struct Sequence {
+  char bytes[256];
+  std::size_t length = 0;
+
+  void append(const char* capability) {
+    char* value = tigetstr(const_cast<char*>(capability));
+    if (value == nullptr || value == reinterpret_cast<char*>(-1)) return;
+    std::size_t n = std::strlen(value);
+    if (length + n > sizeof bytes) return;
+    std::memcpy(bytes + length, value, n);
+    length += n;
+  }
+
+  void write() const {
+    const char* next = bytes;
+    std::size_t left = length;
+    while (left > 0) {
+      ssize_t n = ::write(STDOUT_FILENO, next, left);
+      if (n < 0 && errno == EINTR) continue;
+      if (n <= 0) return;
+      next += n;
+      left -= static_cast<std::size_t>(n);
+    }
+  }
+};
+
+struct termios savedModes;
+struct termios gameModes;
+bool haveSavedModes = false;
+bool haveGameModes = false;
+Sequence restoreSequence;
+Sequence resumeSequence;
 
 void restoreFromSignal() {
-  if (restoreLength > 0) {
-    ssize_t ignored = write(STDOUT_FILENO, restoreSequence, restoreLength);
-    (void)ignored;
-  }
-  if (haveSavedModes) tcsetattr(STDIN_FILENO, TCSANOW, &savedModes);
+  restoreSequence.write();
+  if (haveSavedModes) tcsetattr(STDIN_FILENO, TCSADRAIN, &savedModes);
 }
 
 void onSignal(int signalNumber) {
@@ -99,47 +132,93 @@ void onSignal(int signalNumber) {
   raise(signalNumber);
 }
 
+void onResize(int) { sizeChanged = 1; }
+
+// Ctrl+Z: give the terminal back, stop, and on `fg` take it again; the
+// screen is repainted as after a change of size.
+void onStop(int) {
+  const int savedErrno = errno;
+  if (isOpen) restoreFromSignal();
+  struct sigaction original {};
+  struct sigaction standard {};
+  standard.sa_handler = SIG_DFL;
+  sigemptyset(&standard.sa_mask);
+  sigaction(SIGTSTP, &standard, &original);
+  sigset_t stop;
+  sigemptyset(&stop);
+  sigaddset(&stop, SIGTSTP);
+  sigprocmask(SIG_UNBLOCK, &stop, nullptr);
+  raise(SIGTSTP);  // stopped here until the shell continues the game
+  sigaction(SIGTSTP, &original, nullptr);
+  if (isOpen) {
+    if (haveGameModes) tcsetattr(STDIN_FILENO, TCSADRAIN, &gameModes);
+    resumeSequence.write();
+    sizeChanged = 1;
+  }
+  errno = savedErrno;
+}
+
 void installSignalHandlers() {
   struct sigaction action {};
   action.sa_handler = onSignal;
   sigemptyset(&action.sa_mask);
   action.sa_flags = static_cast<int>(SA_RESETHAND);
   for (int signalNumber :
-       {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT}) {
+       {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGPIPE,
+        SIGUSR1, SIGUSR2, SIGALRM, SIGXCPU, SIGXFSZ, SIGVTALRM, SIGPROF}) {
     sigaction(signalNumber, &action, nullptr);
   }
-  signal(SIGPIPE, SIG_IGN);
+  // Installed before curses starts, so that curses keeps its own away.
+  struct sigaction resize {};
+  resize.sa_handler = onResize;
+  sigemptyset(&resize.sa_mask);
+  sigaction(SIGWINCH, &resize, nullptr);
+  struct sigaction stop {};
+  stop.sa_handler = onStop;
+  sigemptyset(&stop.sa_mask);
+  sigaddset(&stop.sa_mask, SIGWINCH);
+  sigaction(SIGTSTP, &stop, nullptr);
 }
 
-// The console palette has blue and red swapped against the ANSI order.
-short terminalColour(int consoleColour) {
-  static constexpr short kAnsi[8] = {COLOR_BLACK, COLOR_BLUE,    COLOR_GREEN,  COLOR_CYAN,
-                                     COLOR_RED,   COLOR_MAGENTA, COLOR_YELLOW, COLOR_WHITE};
-  short base = kAnsi[consoleColour & 7];
-  return (consoleColour & 8) && colours16 ? static_cast<short>(base + 8) : base;
+// One line on standard error and the end, for a terminal the game cannot use.
+[[noreturn]] void refuse(const std::string& what) {
+  std::fprintf(stderr, "skarmada: %s\n", what.c_str());
+  std::exit(1);
 }
 
-// The curses attributes and pair for a console colour. With 16 colours the
-// pair says it all; with 8, a bright foreground is shown bold and a bright
-// background as its dark twin; without colour, light backgrounds are shown
-// reversed.
+// Before anything is written: is there a terminal, and can it place text?
+void checkTerminal() {
+  const char* type = std::getenv("TERM");
+  if (type == nullptr || *type == '\0') refuse("TERM is not set");
+  if (!isatty(STDOUT_FILENO)) refuse("standard output is not a terminal");
+  if (!isatty(STDIN_FILENO)) refuse("standard input is not a terminal");
+  const std::string named = std::string("the terminal type '") + type + "'";
+  int status = 0;
+  if (setupterm(type, STDOUT_FILENO, &status) != OK) {
+    refuse(named + (status == 0 ? " is not known" : " has no description here"));
+  }
+  char* cursorAddress = tigetstr(const_cast<char*>("cup"));
+  const bool placesText = cursorAddress != nullptr &&
+                          cursorAddress != reinterpret_cast<char*>(-1) &&
+                          tigetflag(const_cast<char*>("hc")) <= 0;
+  del_curterm(cur_term);
+  if (!placesText) refuse(named + " cannot position the cursor");
+}
+
+// The curses attributes and pair for a console colour.
 void attributesFor(std::uint8_t colour, attr_t& attributes, short& pair) {
-  int foreground = colour & 15;
-  int background = colour >> 4;
+  const TerminalLook look = terminalLook(colour, palette);
   attributes = A_NORMAL;
+  if (look.bold) attributes |= A_BOLD;
+  if (look.dim) attributes |= A_DIM;
+  if (look.underline) attributes |= A_UNDERLINE;
+  if (look.reverse) attributes |= A_REVERSE;
   pair = 0;
-  if (!anyColour) {
-    if (background >= 7 || (background != 0 && foreground == 0)) attributes |= A_REVERSE;
-    if (foreground >= 9) attributes |= A_BOLD;
-    return;
-  }
-  int key = colour;
-  if (!colours16) {
-    key = (foreground & 7) | ((background & 7) << 3);
-    if (foreground & 8) attributes |= A_BOLD;
-  }
+  if (look.foreground < 0) return;
+  const int key = look.foreground + 16 * look.background;
+  assert(key >= 0 && key < 256);
   if (pairs[key] == 0 && nextPair < COLOR_PAIRS && nextPair < 32767) {
-    init_pair(nextPair, terminalColour(foreground), terminalColour(background));
+    init_pair(nextPair, static_cast<short>(look.foreground), static_cast<short>(look.background));
     pairs[key] = nextPair++;
   }
   pair = pairs[key];
@@ -190,11 +269,26 @@ void present(ScreenModel& screen) {
   doupdate();
 }
 
-// After the terminal has changed size: everything is drawn again.
+// Everything is drawn again, from the model.
 void repaintAll() {
   erase();
   fullRepaint = true;
   present(Console::mutableScreen());
+}
+
+// After a change of size, or Ctrl+Z and `fg`: curses learns the terminal's
+// size, and the whole screen is cleared and painted again. Called on every
+// way into the backend and whenever a signal breaks a wait or a sleep, so
+// that no animation, flush or wait can keep the broken screen up.
+void catchUp() {
+  if (sizeChanged == 0 || !isOpen) return;
+  sizeChanged = 0;
+  struct winsize size {};
+  if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_row > 0 && size.ws_col > 0) {
+    resize_term(size.ws_row, size.ws_col);
+  }
+  clearok(curscr, TRUE);
+  repaintAll();
 }
 
 // A shifted punctuation key gives the virtual key of the key it is on, as a
@@ -252,7 +346,6 @@ bool translate(int status, wint_t input, KeyEvent& event) {
       case KEY_BACKSPACE: event = KeyEvent::press(kKeyBackspace, 8); return true;
       case KEY_ENTER: event = KeyEvent::enter(); return true;
       case KEY_BTAB: event = KeyEvent::press(kKeyTab, 9); return true;
-      case KEY_RESIZE: repaintAll(); return false;
       default:
         if (input >= static_cast<wint_t>(KEY_F(1)) && input <= static_cast<wint_t>(KEY_F(12))) {
           event = KeyEvent::arrow(static_cast<std::uint16_t>(112 + (input - KEY_F(1))));
@@ -288,42 +381,54 @@ bool translate(int status, wint_t input, KeyEvent& event) {
 }
 
 // Takes every key the terminal has ready into the queue, without waiting.
-// Returns how many reads brought something, keys or not.
-int drain() {
+// Alt with a key comes as Escape and the key at once: the Escape is dropped
+// and the key counts as itself. A byte that is no key is ignored.
+void drain() {
   timeout(0);
-  int reads = 0;
   wint_t input = 0;
   int status;
+  bool escapeHeld = false;
   while ((status = wget_wch(stdscr, &input)) != ERR) {
-    ++reads;
+    const bool character = status == OK;
+    if (escapeHeld && !(character && input >= 32 && input != 127)) {
+      pending.push_back(KeyEvent::escape());
+    }
+    escapeHeld = character && input == 27;
+    if (escapeHeld) continue;
     KeyEvent event;
     if (translate(status, input, event)) pending.push_back(event);
   }
-  return reads;
+  if (escapeHeld) pending.push_back(KeyEvent::escape());
+}
+
+// The terminal is gone: nothing more can be read or shown.
+[[noreturn]] void terminalGone() {
+  Console::close();
+  std::exit(1);
 }
 
 // Waits up to `waitMs` (-1: for ever) for the terminal to have input, and
 // takes what it has. True if a key is in the queue. The wait is a plain
 // poll, so a pass of a polling loop that finds nothing costs one system call.
+// Only a hang-up, an error or the end of the input ends the game; bytes that
+// decode to no key are simply gone.
 bool fetch(int waitMs) {
-  static int emptyReads = 0;
+  catchUp();
   struct pollfd input {
     STDIN_FILENO, POLLIN, 0
   };
   int ready = poll(&input, 1, waitMs);
   if (ready < 0) {
-    if (errno == EINTR) drain();  // a signal: perhaps the terminal changed size
+    catchUp();  // a signal, perhaps a change of size
     return !pending.empty();
   }
   lastEmptied = SteadyClock::now();
   if (ready == 0) return false;
-  if (drain() > 0) {
-    emptyReads = 0;
-  } else if ((input.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0 || ++emptyReads > 1000) {
-    // The terminal is gone: nothing more can be read or shown.
-    Console::close();
-    std::exit(1);
-  }
+  int waiting = 1;
+  if (ioctl(STDIN_FILENO, FIONREAD, &waiting) != 0) waiting = 1;
+  if (waiting > 0) drain();
+  // Readable with nothing to read is the end of the input.
+  if (waiting <= 0 || (input.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0) terminalGone();
   return !pending.empty();
 }
 
@@ -332,19 +437,17 @@ bool fetch(int waitMs) {
 namespace backend {
 
 void open() {
+  checkTerminal();
   std::setlocale(LC_ALL, "");
   utf8 = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
   if (tcgetattr(STDIN_FILENO, &savedModes) == 0) haveSavedModes = true;
   installSignalHandlers();
-  if (newterm(nullptr, stdout, stdin) == nullptr) {
-    std::fputs("skarmada: this program needs a terminal\n", stderr);
-    std::exit(1);
-  }
-  restoreLength = 0;
-  appendRestore("sgr0");
-  appendRestore("cnorm");
-  appendRestore("rmkx");
-  appendRestore("rmcup");
+  if (newterm(nullptr, stdout, stdin) == nullptr) refuse("this program needs a terminal");
+  restoreSequence = {};
+  for (const char* capability : {"sgr0", "cnorm", "rmkx", "rmcup"})
+    restoreSequence.append(capability);
+  resumeSequence = {};
+  for (const char* capability : {"smcup", "smkx", "civis"}) resumeSequence.append(capability);
   isOpen = true;
   set_escdelay(25);
   cbreak();
@@ -354,10 +457,17 @@ void open() {
   keypad(stdscr, TRUE);
   leaveok(stdscr, TRUE);
   curs_set(0);
+  // No flow control: Ctrl+S would freeze the screen until Ctrl+Q. Curses
+  // keeps these modes as the program's, and puts the player's back on the
+  // way out.
+  if (tcgetattr(STDIN_FILENO, &gameModes) == 0) {
+    gameModes.c_iflag &= ~static_cast<tcflag_t>(IXON | IXOFF);
+    haveGameModes = tcsetattr(STDIN_FILENO, TCSADRAIN, &gameModes) == 0;
+    def_prog_mode();
+  }
   if (has_colors()) {
     start_color();
-    anyColour = true;
-    colours16 = COLORS >= 16;
+    palette = COLORS >= 16 ? TerminalColours::kSixteen : TerminalColours::kEight;
   }
   // Whatever lies beyond the 80x25 screen is black too.
   attr_t attributes;
@@ -379,12 +489,14 @@ void close() {
 }
 
 void show(ScreenModel& screen) {
+  catchUp();
   if (!screen.changed && !fullRepaint) return;
   present(screen);
   lastChange = SteadyClock::now();
 }
 
 bool keyWaiting() {
+  catchUp();
   if (!pending.empty()) return true;
   if (SteadyClock::now() - lastChange > kStillAfter) return fetch(kSlowWaitMs);
   if (++passesSinceWait < kPassesPerWait) return false;
@@ -401,6 +513,7 @@ KeyEvent readKey() {
 
 void flushKeys() {
   pending.clear();
+  catchUp();
   // Right after a look at the terminal found it empty there is nothing to
   // throw away; the polling loops flush on every pass, and this spares
   // them a system call.
@@ -412,8 +525,7 @@ void sleep(int milliseconds) {
   struct timespec wait {
     milliseconds / 1000, static_cast<long>(milliseconds % 1000) * 1000000L
   };
-  while (nanosleep(&wait, &wait) != 0 && errno == EINTR) {
-  }
+  while (nanosleep(&wait, &wait) != 0 && errno == EINTR) catchUp();
 }
 
 }  // namespace backend

@@ -56,13 +56,19 @@ int run(const ListRow* rows, int column, int row, int width, int visibleRows, in
   const Box box{rows, column, row, width, visibleRows, std::max(totalRows, 0)};
   const int total = box.totalRows;
   const int shown = std::min(total, visibleRows);
-  // A state left by a longer list is brought inside this one.
-  int top = std::clamp(state.top, 0, std::max(0, total - shown));
+  // The state is kept as it is given, even where the last page is not full
+  // (top 7 of 19 rows in a box of 13: the rows below the last are blank).
+  // Only a state left by a longer list, whose highlight would fall past the
+  // end, is brought inside this one.
+  int top = std::max(state.top, 0);
   int cursorRow = std::min(row + state.cursor, row + total - 1);
   // A list left while it was empty keeps a cursor above its first row: it
   // comes back on the first row once it has some.
   if (total > 0 && cursorRow < row) cursorRow = row;
-  if (top + cursorRow - row > total - 1) cursorRow = row + total - 1 - top;
+  if (top + cursorRow - row > total - 1) {
+    top = std::clamp(top, 0, std::max(0, total - shown));
+    if (top + cursorRow - row > total - 1) cursorRow = row + total - 1 - top;
+  }
   int sel = top + cursorRow - row;
 
   bool firstPass = true;

@@ -85,6 +85,21 @@ TEST_F(ListBoxTest, LeavingKeysAndStepsReturnTheirCodes) {
   EXPECT_EQ(run("Enter", false, true), kListStepEnter);
 }
 
+TEST_F(ListBoxTest, AStateWithAShortLastPageIsKept) {
+  fill(19);
+  state = {7, 5};
+  EXPECT_EQ(run("Enter"), 12);
+  EXPECT_EQ(highlightedRow(), 5);
+  EXPECT_EQ(scripted::textAt(kColumn, kRow, 6), "row 7 ");
+  EXPECT_EQ(scripted::textAt(kColumn, kRow + 11, 6), "row 18");
+  EXPECT_EQ(scripted::textAt(kColumn, kRow + kBox - 1, kWidth), std::string(kWidth, ' '))
+      << "nothing is drawn past the end of the list";
+  EXPECT_EQ(run("Down Down Down Down Down Down Down Enter"), 18) << "Down stops on the last row";
+  EXPECT_EQ(highlightedRow(), 11);
+  state = {15, 5};
+  EXPECT_EQ(run("Enter"), 11) << "a state left by a longer list comes back inside this one";
+}
+
 TEST_F(ListBoxTest, OddStatesAndEvents) {
   fill(3);
   state = {0, 8};
