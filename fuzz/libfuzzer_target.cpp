@@ -1,7 +1,7 @@
 // libFuzzer's entry: the bytes of an input play the whole game (see
 // tests/support/fuzz_driver.h for what a byte means); a broken invariant
 // stops the run as a crash so that libFuzzer keeps the input.
-//   ./build-fuzz/skarmada_fuzz fuzz/corpus
+//   build-fuzz/skarmada_fuzz build-fuzz/corpus fuzz/corpus
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
