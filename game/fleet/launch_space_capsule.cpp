@@ -10,6 +10,7 @@
 #include "game/console/widgets.h"
 #include "game/crew/crew_bio.h"
 #include "game/fleet/bunker_site.h"
+#include "game/fleet/locations.h"
 #include "game/fleet/missions.h"
 #include "game/planet/ground_map.h"
 #include "game/planet/navigation.h"
@@ -34,9 +35,7 @@ constexpr int kDigitsColumn = 61;
 // The map of the target picker, as the craft's.
 constexpr int kMapColumn = 15;
 constexpr int kMapRow = 1;
-constexpr int kDockColumn = kMapColumn + 16;
-constexpr int kDockRow = kMapRow + 17;
-constexpr int kPickerTitleColour = 62;
+constexpr int kShipMarkColour = 13;
 
 void drawLaunchBox() {
   drawDoubleLines(
@@ -335,38 +334,23 @@ void stepLoad(CapsuleLoad& load, bool food, bool add) {
 }
 
 CapsuleTarget pickCapsuleTarget() {
-  drawFrame(kWarFrameColour, false);
-  Console::putText("SELECT A TARGET SECTOR FOR THIS CAPSULE", 20, 0, kPickerTitleColour);
-  for (int n = 1; n <= kSectorCount; ++n) {
-    const int letter = thePlanet().sector(n).bunker().isBuilt() ? 14 : 15;
-    drawSectorCell(n, kMapColumn + 8 * thePlanet().sector(n).column(),
-                   kMapRow + 4 * thePlanet().sector(n).row(), kBorderAtRest, letter);
-  }
-  drawDockBox(kDockColumn, kDockRow, kBorderLit);
+  drawTargetMap("SELECT A TARGET SECTOR FOR THIS CAPSULE", kBorderLit);
   drawMapTerrain(kMapColumn, kMapRow);
-  drawMapMarks(0, 13);
-  int cursor = kOrbitCursor;
-  bool cameThroughLeft = true;
+  drawMapMarks(kMothershipLocation, kShipMarkColour);
+  TargetCursor cursor;
   for (;;) {
-    Console::putText("Highlighted Selection", 3, 18, kPlain);
-    Console::putText(std::string(10, ' '), 11, 19, kFigures);
-    drawSectorLine(3, 19, kPlain, kFigures, cursor, "Mothership");
+    drawHighlightedSelection(cursor);
     const KeyEvent key = Console::readKey();
-    if (key.isKey && key.keyDown) {
-      if (key.virtualKey >= kKeyLeft && key.virtualKey <= kKeyDown) {
-        const int next = targetCursorAfter(cursor, key.virtualKey, cameThroughLeft);
-        if (next != cursor) {
-          moveTargetHighlight(kMapColumn, kMapRow, next, cursor);
-          cursor = next;
-        }
-      } else if (key.ascii == kKeyEnter && cursor != kOrbitCursor) {
+    if (key.isKey && key.keyDown && !moveTargetCursor(cursor, key.virtualKey)) {
+      if (key.ascii == kKeyEnter && cursor.place != kOrbitCursor) {
         Console::flushKeys();
-        const std::int32_t site = thePlanet().sector(cursor).bunker().getSubSector();
-        if (site != -1) return {cursor, site};
-        const int picked = pickBunkerSite(cursor);
+        const std::int32_t site = thePlanet().sector(cursor.place).bunker().getSubSector();
+        if (site != -1) return {cursor.place, site};
+        const int picked = pickBunkerSite(cursor.place);
         if (picked == -1) return {};
-        return {cursor, picked};
-      } else if (key.ascii == kKeyEscape) {
+        return {cursor.place, picked};
+      }
+      if (key.ascii == kKeyEscape) {
         Console::flushKeys();
         return {};
       }

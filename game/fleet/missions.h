@@ -55,6 +55,20 @@ bool pickTarget(std::int32_t location, std::int32_t craftRow, bool anySector);
 // it on the same side.
 int targetCursorAfter(int cursor, int virtualKey, bool& cameThroughLeft);
 
+// The picker's cursor: a sector, or kOrbitCursor on the dock box, and the
+// side by which it came to the dock box.
+struct TargetCursor {
+  int place = kOrbitCursor;
+  bool cameThroughLeft = true;
+};
+// The war map of the pickers with its title, every sector at rest (a
+// letter yellow where a bunker is built), and the dock box below.
+void drawTargetMap(const char* title, int dockColour);
+// "Highlighted Selection" and the place under the cursor.
+void drawHighlightedSelection(const TargetCursor& cursor);
+// Moves the cursor and its highlight on an arrow; false for other keys.
+bool moveTargetCursor(TargetCursor& cursor, int virtualKey);
+
 // The dock box: the orbit box of the war map with the word DOCK.
 void drawDockBox(int column, int row, int colour);
 // The old place of the cursor at rest, the new one lit; a sector's letter

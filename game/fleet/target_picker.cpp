@@ -63,13 +63,7 @@ void drawTargetState(const Aircraft& craft) {
 }  // namespace
 
 void drawDockBox(int column, int row, int colour) {
-  Console::putChar(214, column, row, colour);
-  Console::putChar(183, column + 16, row, colour);
-  Console::putChar(186, column, row + 1, colour);
-  Console::putText(" D   O   C   K  ", column + 1, row + 1, 15);
-  Console::putChar(186, column + 16, row + 1, colour);
-  Console::putChar(211, column, row + 2, colour);
-  Console::putChar(189, column + 16, row + 2, colour);
+  drawBoxUnderMap(column, row, colour, " D   O   C   K  ");
 }
 
 void moveTargetHighlight(int column, int row, int newCursor, int oldCursor) {
@@ -85,41 +79,53 @@ int targetCursorAfter(int cursor, int virtualKey, bool& cameThroughLeft) {
   return next;
 }
 
-bool pickTarget(std::int32_t location, std::int32_t craftRow, bool anySector) {
-  assert(location >= kMothershipLocation && location <= kLastLocation);
-  Aircraft& craft = aircraftAt(location).at(craftRow);
+void drawTargetMap(const char* title, int dockColour) {
   drawFrame(kWarFrameColour, false);
-  Console::putText("SELECT A TARGET SECTOR FOR THIS AIRCRAFT", 20, 0, kTitleColour);
+  Console::putText(title, 20, 0, kTitleColour);
   for (int n = 1; n <= kSectorCount; ++n) {
     drawSectorCell(n, cellColumn(kMapColumn, n), cellRow(kMapRow, n), kBorderAtRest,
                    letterColour(n));
   }
-  drawDockBox(kDockColumn, kDockRow, location == kMothershipLocation ? kBorderLit : kBorderAtRest);
+  drawDockBox(kDockColumn, kDockRow, dockColour);
+}
+
+void drawHighlightedSelection(const TargetCursor& cursor) {
+  Console::putText("Highlighted Selection", 3, 18, 15);
+  // A letter is shorter than "Mothership": the line is cleared first.
+  Console::putText(std::string(10, ' '), 11, 19, 14);
+  drawSectorLine(3, 19, 15, 14, cursor.place, "Mothership");
+}
+
+bool moveTargetCursor(TargetCursor& cursor, int virtualKey) {
+  if (virtualKey < kKeyLeft || virtualKey > kKeyDown) return false;
+  const int next = targetCursorAfter(cursor.place, virtualKey, cursor.cameThroughLeft);
+  if (next != cursor.place) {
+    moveTargetHighlight(kMapColumn, kMapRow, next, cursor.place);
+    cursor.place = next;
+  }
+  return true;
+}
+
+bool pickTarget(std::int32_t location, std::int32_t craftRow, bool anySector) {
+  assert(location >= kMothershipLocation && location <= kLastLocation);
+  Aircraft& craft = aircraftAt(location).at(craftRow);
+  drawTargetMap("SELECT A TARGET SECTOR FOR THIS AIRCRAFT",
+                location == kMothershipLocation ? kBorderLit : kBorderAtRest);
   if (isSector(location)) drawPlace(kMapColumn, kMapRow, location, kBorderLit);
 
-  int cursor = location == kMothershipLocation ? kOrbitCursor : location;
-  bool cameThroughLeft = true;
+  TargetCursor cursor{location == kMothershipLocation ? kOrbitCursor : location};
   // Any earlier aim is forgotten.
   craft.setDestination(location);
   drawTargetState(craft);
   for (;;) {
-    Console::putText("Highlighted Selection", 3, 18, 15);
-    // A letter is shorter than "Mothership": the line is cleared first.
-    Console::putText(std::string(10, ' '), 11, 19, 14);
-    drawSectorLine(3, 19, 15, 14, cursor, "Mothership");
+    drawHighlightedSelection(cursor);
     const KeyEvent key = Console::readKey();
-    if (key.isKey && key.keyDown) {
-      if (key.virtualKey >= kKeyLeft && key.virtualKey <= kKeyDown) {
-        const int next = targetCursorAfter(cursor, key.virtualKey, cameThroughLeft);
-        if (next != cursor) {
-          moveTargetHighlight(kMapColumn, kMapRow, next, cursor);
-          cursor = next;
-        }
-      } else if (key.ascii == kKeyEnter) {
-        if (cursor == kOrbitCursor) {
+    if (key.isKey && key.keyDown && !moveTargetCursor(cursor, key.virtualKey)) {
+      if (key.ascii == kKeyEnter) {
+        if (cursor.place == kOrbitCursor) {
           craft.setDestination(kMothershipLocation);
-        } else if (anySector || thePlanet().sector(cursor).bunker().isBuilt()) {
-          craft.setDestination(cursor);
+        } else if (anySector || thePlanet().sector(cursor.place).bunker().isBuilt()) {
+          craft.setDestination(cursor.place);
         }
         drawTargetState(craft);
       } else if (key.ascii == kKeyEscape) {

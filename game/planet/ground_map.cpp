@@ -131,14 +131,18 @@ void drawSectorMap(int column, int row, int borderColour, bool showOrbit, int le
   if (showOrbit) drawOrbitBox(column + 16, row + 17, borderColour);
 }
 
-void drawOrbitBox(int column, int row, int colour) {
+void drawBoxUnderMap(int column, int row, int colour, std::string_view label) {
   Console::putChar(214, column, row, colour);
   Console::putChar(183, column + 16, row, colour);
   Console::putChar(186, column, row + 1, colour);
-  Console::putText(" O  R  B  I  T ", column + 1, row + 1, 15);
+  Console::putText(label, column + 1, row + 1, 15);
   Console::putChar(186, column + 16, row + 1, colour);
   Console::putChar(211, column, row + 2, colour);
   Console::putChar(189, column + 16, row + 2, colour);
+}
+
+void drawOrbitBox(int column, int row, int colour) {
+  drawBoxUnderMap(column, row, colour, " O  R  B  I  T ");
 }
 
 void moveSectorHighlight(int column, int row, int newSector, int oldSector) {

@@ -23,6 +23,8 @@ inline constexpr int kBorderLit = 12;
 void drawSectorCell(int sector, int column, int row, int borderColour, int letterColour);
 void drawSectorMap(int column, int row, int borderColour, bool showOrbit, int letterColour);
 void drawOrbitBox(int column, int row, int colour);
+// The box below the map in which the orbit (or the ship's dock) stands.
+void drawBoxUnderMap(int column, int row, int colour, std::string_view label);
 void moveSectorHighlight(int column, int row, int newSector, int oldSector);
 void moveOrbitHighlight(int column, int row, int newCursor, int oldCursor);
 // The known land of a sector, squeezed into the 7 x 3 inside of its cell.
