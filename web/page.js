@@ -1,5 +1,5 @@
-// Skarmada's page: draws the game's 80x25 screen on a canvas, keeps the same
-// screen as text for screen readers, and hands the game its keys.
+// Skarmada's page: draws the game's 80x25 screen on canvases, keeps the same
+// screen as text for screen readers (and tests), and hands the game its keys.
 //
 // The game (skarmada.js and skarmada.wasm, built from the same sources as
 // the terminal game) calls Module.skarmada: open, paint (the cells that
@@ -45,16 +45,28 @@
   };
 
   const screenElement = document.getElementById("console");
-  const canvas = document.getElementById("glyphs");
-  const context = canvas.getContext("2d", { alpha: false });
+  // One canvas a row: a change hands the browser only the rows it touched.
+  const glyphs = document.getElementById("glyphs");
+  const canvases = [];
+  const contexts = [];
+  for (let row = 0; row < ROWS; ++row) {
+    const canvas = document.createElement("canvas");
+    glyphs.appendChild(canvas);
+    canvases.push(canvas);
+    contexts.push(canvas.getContext("2d", { alpha: false, desynchronized: true }));
+  }
+  let context = contexts[0];
   const textLayer = document.getElementById("text");
   const tooSmall = document.getElementById("too-small");
   const ended = document.getElementById("ended");
 
   const codes = new Uint8Array(CELLS).fill(32);
   const colours = new Uint8Array(CELLS).fill(15);
-  let unicode = null;
-  const cellSpans = [];
+  const HEX = "0123456789abcdef";
+  // The character shown for each code, ASCII until the game gives its table.
+  let characters = Array.from({ length: 256 }, (_, code) =>
+    code >= 32 && code < 127 ? String.fromCharCode(code) : " ");
+  const rowElements = [];
   const keys = [];
   let wakeOnKey = null;
   let running = false;
@@ -69,20 +81,33 @@
   let keyTime = -1;
   window.skarmadaStats = stats;
 
+  // The screen as text: one element a row, its text the row's 80
+  // characters; data-fg and data-bg hold each cell's foreground and
+  // background as one hex digit a cell.
   function buildTextLayer() {
     for (let row = 0; row < ROWS; ++row) {
       const line = document.createElement("div");
       line.dataset.row = String(row);
-      for (let column = 0; column < COLUMNS; ++column) {
-        const span = document.createElement("span");
-        span.textContent = " ";
-        span.dataset.fg = "15";
-        span.dataset.bg = "0";
-        line.appendChild(span);
-        cellSpans.push(span);
-      }
+      line.appendChild(document.createTextNode(" ".repeat(COLUMNS)));
+      rowElements.push(line);
       textLayer.appendChild(line);
     }
+    for (let row = 0; row < ROWS; ++row) writeRow(row);
+  }
+
+  function writeRow(row) {
+    let text = "";
+    let fg = "";
+    let bg = "";
+    for (let index = row * COLUMNS; index < (row + 1) * COLUMNS; ++index) {
+      text += characters[codes[index]];
+      fg += HEX[colours[index] & 15];
+      bg += HEX[colours[index] >> 4];
+    }
+    const line = rowElements[row];
+    line.firstChild.data = text;
+    line.dataset.fg = fg;
+    line.dataset.bg = bg;
   }
 
   // Fits the screen to the window, keeping 80x25 cells of 1 by 2.
@@ -92,23 +117,26 @@
       (window.innerWidth * ratio) / COLUMNS, (window.innerHeight * ratio) / (ROWS * 2)));
     cellWidth = Math.max(1, width);
     cellHeight = cellWidth * 2;
-    canvas.width = cellWidth * COLUMNS;
-    canvas.height = cellHeight * ROWS;
-    const cssWidth = canvas.width / ratio;
-    const cssHeight = canvas.height / ratio;
-    canvas.style.width = cssWidth + "px";
-    canvas.style.height = cssHeight + "px";
+    const cssWidth = (cellWidth * COLUMNS) / ratio;
+    const cssHeight = (cellHeight * ROWS) / ratio;
+    glyphs.style.width = cssWidth + "px";
+    glyphs.style.height = cssHeight + "px";
+    const font = Math.floor(Math.min(cellHeight * 0.8, cellWidth * 1.6)) +
+      'px "DejaVu Sans Mono", "Liberation Mono", monospace';
+    canvases.forEach((canvas, row) => {
+      canvas.width = cellWidth * COLUMNS;
+      canvas.height = cellHeight;
+      canvas.style.width = cssWidth + "px";
+      canvas.style.height = cellHeight / ratio + "px";
+      canvas.style.top = (row * cellHeight) / ratio + "px";
+      const rowContext = contexts[row];
+      rowContext.textAlign = "center";
+      rowContext.textBaseline = "middle";
+      rowContext.font = font;
+    });
     screenElement.style.left = Math.floor((window.innerWidth - cssWidth) / 2) + "px";
     screenElement.style.top = Math.floor((window.innerHeight - cssHeight) / 2) + "px";
-    const cssCell = cssWidth / COLUMNS;
-    textLayer.style.fontSize = (cssCell * 1.6).toFixed(2) + "px";
-    textLayer.style.lineHeight = (cssCell * 2).toFixed(2) + "px";
-    textLayer.style.setProperty("--cell", cssCell + "px");
-    tooSmall.hidden = cssCell >= MIN_CELL_WIDTH;
-    context.textAlign = "center";
-    context.textBaseline = "middle";
-    context.font = Math.floor(Math.min(cellHeight * 0.8, cellWidth * 1.6)) +
-      'px "DejaVu Sans Mono", "Liberation Mono", monospace';
+    tooSmall.hidden = cssWidth / COLUMNS >= MIN_CELL_WIDTH;
     for (let index = 0; index < CELLS; ++index) drawCell(index);
   }
 
@@ -174,7 +202,8 @@
     const w = cellWidth;
     const h = cellHeight;
     const x = (index % COLUMNS) * w;
-    const y = Math.floor(index / COLUMNS) * h;
+    const y = 0;
+    context = contexts[Math.floor(index / COLUMNS)];
     fill(bg, x, y, w, h);
     const halfW = Math.floor(w / 2);
     const halfH = Math.floor(h / 2);
@@ -208,7 +237,7 @@
       return;
     }
     context.fillStyle = PALETTE[fg];
-    context.fillText(String.fromCodePoint(unicode ? unicode[code] : code), x + w / 2,
+    context.fillText(characters[code], x + w / 2,
       y + h / 2 + 1, w);
   }
 
@@ -251,7 +280,7 @@
   const page = {
     open(table) {
       performance.mark("game-open");
-      unicode = table;
+      characters = Array.from(table, (point) => String.fromCodePoint(point));
       running = true;
       screenElement.focus();
     },
@@ -259,18 +288,17 @@
       showEnded();
     },
     paint(changes) {
+      const rows = new Uint8Array(ROWS);
       for (let i = 0; i < changes.length; ++i) {
         const word = changes[i];
         const index = word >>> 16;
-        const colour = (word >>> 8) & 255;
-        const code = word & 255;
-        codes[index] = code;
-        colours[index] = colour;
+        codes[index] = word & 255;
+        colours[index] = (word >>> 8) & 255;
         drawCell(index);
-        const span = cellSpans[index];
-        span.textContent = String.fromCodePoint(unicode[code]);
-        span.dataset.fg = String(colour & 15);
-        span.dataset.bg = String(colour >> 4);
+        rows[Math.floor(index / COLUMNS)] = 1;
+      }
+      for (let row = 0; row < ROWS; ++row) {
+        if (rows[row]) writeRow(row);
       }
       stats.paints += 1;
       if (stats.firstPaint < 0) stats.firstPaint = performance.now();

@@ -10,13 +10,14 @@
 // clears it.
 //
 // Waiting: the game's loops stay as they are. Whenever the game waits (a
-// blocking read, a sleep, every tenth pass of a polling loop) the program
+// blocking read, a sleep, every thirtieth pass of a polling loop) the program
 // gives the tab back to the browser (Asyncify) and resumes on a timer or as
-// soon as a key comes. The polling loops are paced as in a terminal: while
-// the screen moves, ten passes to a beat of 10 ms; once it has
-// stood still for half a second, every pass waits up to 50 ms, and a key
-// ends the wait at once, so that a waiting screen costs the tab next to
-// nothing.
+// soon as a key comes. The polling loops are paced as in a terminal, about
+// a millisecond a pass: while the screen moves, thirty passes to a beat of
+// 30 ms (the title's running lights step once a beat, and the tab wakes 33
+// times a second, not 1000); once it has stood still for half a
+// second, every pass waits up to 250 ms, and a key ends the wait at once, so
+// that a waiting screen costs the tab next to nothing.
 #include <emscripten.h>
 
 #include <cstdint>
@@ -26,9 +27,9 @@
 
 namespace {
 
-constexpr int kPassesPerWait = 10;
-constexpr int kFastWaitMs = 10;
-constexpr int kSlowWaitMs = 50;
+constexpr int kPassesPerWait = 30;
+constexpr int kFastWaitMs = 30;
+constexpr int kSlowWaitMs = 250;
 constexpr double kStillAfterMs = 500.0;
 constexpr int kCellCount = kScreenWidth * kScreenHeight;
 
@@ -114,8 +115,8 @@ bool keyWaiting() {
   } else {
     if (++passesSinceWait < kPassesPerWait) return false;
     passesSinceWait = 0;
-    // The browser's timers come late; the waits keep to a 10 ms beat, so
-    // that an animation counted in passes keeps its pace.
+    // The browser's timers come late; the waits keep to the beat, so that
+    // an animation counted in passes keeps its pace.
     const double now = emscripten_get_now();
     nextWake += kFastWaitMs;
     if (nextWake < now - kFastWaitMs * 3 || nextWake > now + kFastWaitMs)

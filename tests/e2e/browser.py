@@ -40,22 +40,26 @@ def colours(screen, cells):
     return {screen[row][1][column] for row, column in cells}
 
 
-# The canvas, read back: for the given cells, which of their pixels are
-# lit (not the background's black).
+# The drawing, read back: for the cells from column `first` to `last` and
+# row `row` to `lastRow`, which of their pixels are lit (not black). Each row
+# is a canvas of its own.
 LIT_PIXELS = """
 const [first, last, row, lastRow] = arguments;
-const canvas = document.getElementById('glyphs');
-const w = canvas.width / 80, h = canvas.height / 25;
-const x = first * w, y = row * h, width = (last - first + 1) * w, height = (lastRow - row + 1) * h;
-const data = canvas.getContext('2d').getImageData(x, y, width, height).data;
+const canvases = document.querySelectorAll('#glyphs canvas');
 const lit = [];
-for (let j = 0; j < height; ++j) {
-  const line = [];
-  for (let i = 0; i < width; ++i) {
-    const k = (j * width + i) * 4;
-    line.push(data[k] + data[k + 1] + data[k + 2] > 0 ? 1 : 0);
+for (let r = row; r <= lastRow; ++r) {
+  const canvas = canvases[r];
+  const w = canvas.width / 80, h = canvas.height;
+  const width = (last - first + 1) * w;
+  const data = canvas.getContext('2d').getImageData(first * w, 0, width, h).data;
+  for (let j = 0; j < h; ++j) {
+    const line = [];
+    for (let i = 0; i < width; ++i) {
+      const k = (j * width + i) * 4;
+      line.push(data[k] + data[k + 1] + data[k + 2] > 0 ? 1 : 0);
+    }
+    lit.push(line);
   }
-  lit.push(line);
 }
 return lit;
 """
@@ -86,8 +90,14 @@ def check_scaling(driver):
         driver.set_window_size(width, height)
         time.sleep(0.3)
         size, small = driver.execute_script(
-            "const c = document.getElementById('glyphs');"
-            "return [[c.width, c.height], !document.getElementById('too-small').hidden];")
+            "const rows = Array.from(document.querySelectorAll('#glyphs canvas'));"
+            "const box = document.getElementById('glyphs').getBoundingClientRect();"
+            "const tops = rows.map(c => c.getBoundingClientRect().top - box.top);"
+            "const joined = tops.every((t, r) => r === 0 || Math.abs(t - tops[r - 1]"
+            " - rows[r - 1].getBoundingClientRect().height) < 0.01);"
+            "return [[rows[0].width, rows.reduce((sum, c) => sum + c.height, 0), joined],"
+            " !document.getElementById('too-small').hidden];")
+        check(size[2], f"at {width}x{height} the rows of the screen do not meet")
         check(size[0] % COLUMNS == 0 and size[1] % ROWS == 0 and size[0] * 25 == size[1] * 40,
               f"at {width}x{height} the screen is {size[0]}x{size[1]}, not 80x25 cells of 1 by 2")
         check(small == (width < 480), f"at {width}x{height} the too-small notice is "

@@ -33,7 +33,7 @@ KEYS = {
 READ_SCREEN = """
 return Array.from(document.querySelectorAll('[data-row]')).map(row => [
   row.textContent,
-  Array.from(row.children).map(cell => Number(cell.dataset.fg) + 16 * Number(cell.dataset.bg)),
+  Array.from(row.dataset.fg, (fg, i) => parseInt(fg, 16) + 16 * parseInt(row.dataset.bg[i], 16)),
 ]);
 """
 
