@@ -33,8 +33,14 @@
     211: [2, 1, 0, 0], 212: [1, 2, 0, 0], 213: [0, 2, 1, 0], 214: [0, 1, 2, 0],
     215: [2, 1, 2, 1], 216: [1, 2, 1, 2], 217: [1, 0, 0, 1], 218: [0, 1, 1, 0],
   };
-  // Shades: how much of the cell the foreground covers.
-  const SHADE = { 176: 0.25, 177: 0.5, 178: 0.75 };
+  // Shades: the dots of the foreground, in a tile of 4 by 2 dots laid over
+  // the whole screen, so that shaded cells side by side make one surface.
+  const SHADE = {
+    176: ["1000", "0010"],
+    177: ["1010", "0101"],
+    178: ["0111", "1101"],
+  };
+  const shadePatterns = new Map();
 
   // Keys the game takes, by KeyboardEvent.key: [virtual key, character].
   const NAMED_KEYS = {
@@ -194,6 +200,29 @@
     }
   }
 
+  function shadePattern(code, colour) {
+    const dot = Math.max(1, Math.round(cellWidth / 8));
+    const key = code * 256 + colour + dot * 65536;
+    let pattern = shadePatterns.get(key);
+    if (pattern === undefined) {
+      const tile = document.createElement("canvas");
+      tile.width = 4 * dot;
+      tile.height = 2 * dot;
+      const tileContext = tile.getContext("2d");
+      tileContext.fillStyle = PALETTE[colour >> 4];
+      tileContext.fillRect(0, 0, tile.width, tile.height);
+      tileContext.fillStyle = PALETTE[colour & 15];
+      SHADE[code].forEach((line, j) => {
+        for (let i = 0; i < 4; ++i) {
+          if (line[i] === "1") tileContext.fillRect(i * dot, j * dot, dot, dot);
+        }
+      });
+      pattern = context.createPattern(tile, "repeat");
+      shadePatterns.set(key, pattern);
+    }
+    return pattern;
+  }
+
   function drawCell(index) {
     const code = codes[index];
     const colour = colours[index];
@@ -227,9 +256,8 @@
       default: break;
     }
     if (SHADE[code] !== undefined) {
-      context.globalAlpha = SHADE[code];
-      fill(fg, x, y, w, h);
-      context.globalAlpha = 1;
+      context.fillStyle = shadePattern(code, colour);
+      context.fillRect(x, y, w, h);
       return;
     }
     if (BOX[code] !== undefined) {
@@ -272,6 +300,7 @@
 
   function showEnded() {
     running = false;
+    document.body.classList.add("ended");
     keys.length = 0;
     ended.hidden = false;
     document.getElementById("again").focus();
