@@ -173,6 +173,14 @@ def main():
               screen)
         check(screen[19][0].rstrip() == " LIBRARY:", "the Library is not selected after the day",
               screen)
+        # Escape leaves a deck for the map.
+        page.key("Enter")
+        page.wait_for("End Turn Factor 6")
+        page.key("Esc")
+        screen = page.wait_for(" LIBRARY:")
+        check(screen[19][0].rstrip() == " LIBRARY:"
+              and not any("End Turn" in text for text, _ in screen),
+              "Escape did not lead back to the map", screen)
 
         check_scaling(driver)
 
