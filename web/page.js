@@ -308,7 +308,6 @@
 
   const page = {
     open(table) {
-      performance.mark("game-open");
       characters = Array.from(table, (point) => String.fromCodePoint(point));
       running = true;
       screenElement.focus();
@@ -355,10 +354,8 @@
     },
   };
 
-  performance.mark("page-start");
   buildTextLayer();
   layout();
-  performance.mark("page-ready");
   window.addEventListener("resize", layout);
   window.addEventListener("keydown", onKey);
   screenElement.addEventListener("mousedown", () => screenElement.focus());
