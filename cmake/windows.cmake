@@ -13,15 +13,23 @@ endif()
 add_executable(skarmada game/shell/main.cpp game/console/backend_windows.cpp)
 target_link_libraries(skarmada PRIVATE skarmada_game)
 
+# GoogleTest is rarely installed for Windows compilers: without a package, it
+# is built from its sources (Debian's googletest package puts them in
+# /usr/src/googletest; elsewhere, point SKARMADA_GTEST_SOURCE at a checkout).
+if(SKARMADA_TESTS)
+  find_package(GTest QUIET)
+  set(SKARMADA_GTEST_SOURCE /usr/src/googletest/googletest
+      CACHE PATH "GoogleTest's sources, built when no GoogleTest package is found")
+  if(NOT GTest_FOUND AND NOT EXISTS ${SKARMADA_GTEST_SOURCE}/CMakeLists.txt)
+    message(WARNING "No GoogleTest package and no sources in ${SKARMADA_GTEST_SOURCE}: "
+                    "the tests are not built")
+    set(SKARMADA_TESTS OFF)
+  endif()
+endif()
+
 if(SKARMADA_TESTS)
   enable_testing()
-  # GoogleTest is rarely installed for Windows compilers: without a package,
-  # it is built from its sources (Debian's googletest package puts them in
-  # /usr/src/googletest).
-  find_package(GTest QUIET)
   if(NOT GTest_FOUND)
-    set(SKARMADA_GTEST_SOURCE /usr/src/googletest/googletest
-        CACHE PATH "GoogleTest's sources, built when no GoogleTest package is found")
     set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
     set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
     add_subdirectory(${SKARMADA_GTEST_SOURCE} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
@@ -60,3 +68,6 @@ if(SKARMADA_TESTS)
     gtest_discover_tests(skarmada_tests DISCOVERY_TIMEOUT 60)
   endif()
 endif()
+
+# The wine benchmark's yardstick (bench/windows/wine_bench.sh).
+add_executable(console_echo bench/windows/console_echo.cpp)

@@ -202,8 +202,8 @@ bool counts(const INPUT_RECORD& record) {
 }
 
 // True if the queue holds a key that counts; takes nothing from it.
-bool queueHoldsKey(DWORD& events) {
-  events = 0;
+bool queueHoldsKey() {
+  DWORD events = 0;
   if (!GetNumberOfConsoleInputEvents(input, &events)) events = 0;
   eventsSeen = events;
   lookFresh = true;
@@ -270,8 +270,6 @@ void show(ScreenModel& screen) {
 }
 
 bool keyWaiting() {
-  DWORD events = 0;
-  if (queueHoldsKey(events)) return true;
   DWORD waitMs = 0;
   if (SteadyClock::now() - lastChange > kStillAfter) {
     waitMs = kSlowWaitMs;
@@ -279,17 +277,14 @@ bool keyWaiting() {
     passesSinceWait = 0;
     waitMs = kFastWaitMs;
   }
-  if (waitMs == 0) return false;
-  if (events != 0) {
-    // Only events that do not count (a release, a lone Shift) are queued, so
-    // the handle is signalled already; the caller's flush will take them.
-    Sleep(1);
+  // The handle is signalled while the queue holds anything; a wait that runs
+  // out has seen it empty, and an idle pass costs this one call.
+  if (waitMs > 0 && WaitForSingleObject(input, waitMs) == WAIT_TIMEOUT) {
+    eventsSeen = 0;
+    lookFresh = true;
     return false;
   }
-  // Looked at again even when the wait ran out, so that the flush behind
-  // this pass knows whether a key came in at the last moment.
-  WaitForSingleObject(input, waitMs);
-  return queueHoldsKey(events);
+  return queueHoldsKey();
 }
 
 KeyEvent readKey() {
