@@ -46,8 +46,15 @@ if(SKARMADA_TESTS)
   # The tests of the logic, on the scripted console. The end-to-end script of
   # the terminal stays with the Unix build.
   file(GLOB_RECURSE TEST_SOURCES CONFIGURE_DEPENDS tests/*.cpp)
+  list(FILTER TEST_SOURCES EXCLUDE REGEX "tests/windows/")
   add_executable(skarmada_tests ${TEST_SOURCES} game/console/backend_scripted.cpp)
   target_link_libraries(skarmada_tests PRIVATE skarmada_game GTest::gtest GTest::gtest_main)
+
+  # The Windows backend itself, on a real console.
+  add_executable(skarmada_console_tests tests/windows/console_backend_test.cpp
+                                        game/console/backend_windows.cpp)
+  target_link_libraries(skarmada_console_tests PRIVATE skarmada_game GTest::gtest
+                                                       GTest::gtest_main)
 
   if(CMAKE_CROSSCOMPILING AND CMAKE_CROSSCOMPILING_EMULATOR)
     # Under wine: all tests in one run (a start of wine per test would take
@@ -58,14 +65,20 @@ if(SKARMADA_TESTS)
     set_tests_properties(wine_prefix PROPERTIES FIXTURES_SETUP wine ENVIRONMENT
                                                 "${wine_environment}" TIMEOUT 300)
     add_test(NAME windows_unit_tests COMMAND skarmada_tests --gtest_brief=1)
+    # The backend on a console of wine's, which wants a terminal.
+    add_test(NAME windows_console_backend
+             COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tests/windows/in_console.sh
+                     ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:skarmada_console_tests>
+                     --gtest_brief=1)
     add_test(NAME windows_end_to_end
              COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tests/e2e/windows.sh $<TARGET_FILE:skarmada>)
-    set_tests_properties(windows_unit_tests windows_end_to_end
+    set_tests_properties(windows_unit_tests windows_console_backend windows_end_to_end
                          PROPERTIES FIXTURES_REQUIRED wine ENVIRONMENT "${wine_environment}"
                                     RESOURCE_LOCK wine TIMEOUT 600 SKIP_RETURN_CODE 77)
   else()
     include(GoogleTest)
     gtest_discover_tests(skarmada_tests DISCOVERY_TIMEOUT 60)
+    add_test(NAME windows_console_backend COMMAND skarmada_console_tests)
   endif()
 endif()
 

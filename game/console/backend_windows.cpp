@@ -231,7 +231,11 @@ namespace backend {
 void open() {
   InitializeCriticalSection(&guard);
   input = GetStdHandle(STD_INPUT_HANDLE);
-  original = GetStdHandle(STD_OUTPUT_HANDLE);
+  // The buffer the player sees now, by a handle of its own: the standard
+  // output may be a handle that follows whichever buffer is active (wine's).
+  original = CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
+                         FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+  if (original == INVALID_HANDLE_VALUE) original = GetStdHandle(STD_OUTPUT_HANDLE);
   haveInputMode = GetConsoleMode(input, &savedInputMode) != 0;
 
   output =
