@@ -53,6 +53,7 @@ HANDLE input = INVALID_HANDLE_VALUE;
 HANDLE original = INVALID_HANDLE_VALUE;  // the buffer the player had
 HANDLE output = INVALID_HANDLE_VALUE;    // the buffer the game draws on
 bool ownBuffer = false;
+bool ownOriginal = false;  // `original` was opened here
 DWORD savedInputMode = 0;
 bool haveInputMode = false;
 CONSOLE_CURSOR_INFO savedCursor{};
@@ -108,14 +109,16 @@ void restore() {
     if (haveCursor) SetConsoleCursorInfo(output, &savedCursor);
     SetConsoleActiveScreenBuffer(original);
     CloseHandle(output);
-    output = original;
     ownBuffer = false;
-    return;
+  } else {
+    if (haveCursor) SetConsoleCursorInfo(output, &savedCursor);
+    if (haveAttributes) SetConsoleTextAttribute(output, savedAttributes);
+    // The shell's prompt comes on the last row.
+    SetConsoleCursorPosition(output, COORD{0, kScreenHeight - 1});
   }
-  if (haveCursor) SetConsoleCursorInfo(output, &savedCursor);
-  if (haveAttributes) SetConsoleTextAttribute(output, savedAttributes);
-  // The shell's prompt comes on the last row.
-  SetConsoleCursorPosition(output, COORD{0, kScreenHeight - 1});
+  if (ownOriginal) CloseHandle(original);
+  ownOriginal = false;
+  original = output = INVALID_HANDLE_VALUE;
 }
 
 void restoreGuarded() {
@@ -229,13 +232,16 @@ std::uint8_t asciiOf(WCHAR character) {
 namespace backend {
 
 void open() {
-  InitializeCriticalSection(&guard);
+  static bool guardMade = false;
+  if (!guardMade) InitializeCriticalSection(&guard);
+  guardMade = true;
   input = GetStdHandle(STD_INPUT_HANDLE);
   // The buffer the player sees now, by a handle of its own: the standard
   // output may be a handle that follows whichever buffer is active (wine's).
   original = CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
                          FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
-  if (original == INVALID_HANDLE_VALUE) original = GetStdHandle(STD_OUTPUT_HANDLE);
+  ownOriginal = original != INVALID_HANDLE_VALUE;
+  if (!ownOriginal) original = GetStdHandle(STD_OUTPUT_HANDLE);
   haveInputMode = GetConsoleMode(input, &savedInputMode) != 0;
 
   output =
