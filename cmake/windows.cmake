@@ -47,6 +47,20 @@ if(SKARMADA_TESTS)
   # the terminal stays with the Unix build.
   file(GLOB_RECURSE TEST_SOURCES CONFIGURE_DEPENDS tests/*.cpp)
   list(FILTER TEST_SOURCES EXCLUDE REGEX "tests/windows/")
+  # Tests that stand on POSIX calls (a scratch folder made with mkdtemp, and
+  # the like) stay with the Unix build.
+  foreach(source ${TEST_SOURCES})
+    file(STRINGS ${source} posix_includes
+         REGEX "#include [<\"](unistd\.h|pty\.h|sys/.*|tests/cargo/working_folder\.h)[>\"]")
+    if(posix_includes)
+      list(REMOVE_ITEM TEST_SOURCES ${source})
+      list(APPEND SKARMADA_POSIX_TESTS ${source})
+    endif()
+  endforeach()
+  if(SKARMADA_POSIX_TESTS)
+    list(TRANSFORM SKARMADA_POSIX_TESTS REPLACE "^${CMAKE_CURRENT_SOURCE_DIR}/" "")
+    message(STATUS "Tests left to the Unix build: ${SKARMADA_POSIX_TESTS}")
+  endif()
   add_executable(skarmada_tests ${TEST_SOURCES} game/console/backend_scripted.cpp)
   target_link_libraries(skarmada_tests PRIVATE skarmada_game GTest::gtest GTest::gtest_main)
 

@@ -18,7 +18,7 @@
 // a pass once it has stood still for half a second; a key ends any wait. A
 // flush right behind such a look throws away what the look saw and no more,
 // so a key that comes in just then waits for the next pass instead of being
-// lost (under a busy wine this happened to every other key).
+// lost (under a busy wine, many keys were lost that way).
 //
 // The console is put back on every way out: the normal end, Ctrl+C,
 // Ctrl+Break, closing the window, logging off, and a crash.
