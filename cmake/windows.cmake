@@ -51,7 +51,7 @@ if(SKARMADA_TESTS)
   # the like) stay with the Unix build.
   foreach(source ${TEST_SOURCES})
     file(STRINGS ${source} posix_includes
-         REGEX "#include [<\"](unistd\.h|pty\.h|sys/.*|tests/cargo/working_folder\.h)[>\"]")
+         REGEX "#include [<\"](unistd[.]h|pty[.]h|iconv[.]h|sys/.*|tests/cargo/working_folder[.]h)[>\"]")
     if(posix_includes)
       list(REMOVE_ITEM TEST_SOURCES ${source})
       list(APPEND SKARMADA_POSIX_TESTS ${source})
