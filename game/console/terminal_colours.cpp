@@ -31,7 +31,8 @@ bool lightGround(int terminalColour) {
 constexpr std::uint8_t kChosenColours[] = {240, 241, 79, 14};
 
 bool chosen(std::uint8_t colour) {
-  return std::ranges::find(kChosenColours, colour) != std::end(kChosenColours);
+  return std::find(std::begin(kChosenColours), std::end(kChosenColours), colour) !=
+         std::end(kChosenColours);
 }
 
 TerminalLook withoutColour(std::uint8_t colour) {
