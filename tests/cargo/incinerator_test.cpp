@@ -63,7 +63,6 @@ TEST_F(IncineratorTest, EveryItemAcrossAndBackTheSidesChangingByThemselves) {
                                std::string(ship.crew().at(0).name()),
                                std::string(ship.crew().at(1).name())};
   for (int r = 0; r < 5; ++r) EXPECT_EQ(scripted::textAt(3, 5 + r, 35), padded(rows[r])) << r;
-  EXPECT_NE(rows[3], "");
 }
 
 TEST_F(IncineratorTest, LeavingAsksOnlyWithSomethingMarkedAndBurnsNothing) {

@@ -72,7 +72,6 @@ TEST_F(LivingQuartersTest, EmersonSaysHowTheCrewFeel) {
     EXPECT_EQ(scripted::textAt(1, 19, static_cast<int>(says.size())), says) << c.morale;
     EXPECT_EQ(scripted::colourAt(1, 19), 14);
   }
-  EXPECT_EQ(emersonMoraleLine(0), "");
   EXPECT_TRUE(emersonMoraleLine(61).ends_with("winks at you and smiles."));
   ship.setMorale(0.9f);
   ASSERT_TRUE(play("", coffeeWithEmerson));

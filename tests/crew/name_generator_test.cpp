@@ -185,17 +185,4 @@ TEST(NameGenerator, NoNameIsLongerThan19AndHampstersEndInABlank) {
   }
 }
 
-TEST(NameTables, HumanNamesAreInAlphabeticalOrder) {
-  auto sorted = [](const auto& table, int rows) {
-    for (int i = 1; i < rows; ++i) {
-      if (std::string(table[i - 1]) > std::string(table[i])) return std::string(table[i]);
-    }
-    return std::string();
-  };
-  EXPECT_EQ(sorted(humanMale, 274), "");
-  EXPECT_EQ(sorted(humanFemale, 303), "");
-  EXPECT_STREQ(humanMale[273], "Zack");
-  EXPECT_STREQ(humanFemale[302], "Zoey");
-}
-
 }  // namespace

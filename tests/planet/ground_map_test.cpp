@@ -64,6 +64,7 @@ TEST_F(GroundMapTest, CursorsWrapWithoutAnOrbitBox) {
   EXPECT_EQ(groundCursorAfter(22, kKeyDown), 4);
   EXPECT_EQ(groundCursorAfter(1, kKeyLeft), 6);
   EXPECT_EQ(groundCursorAfter(12, kKeyRight), 7);
+  EXPECT_EQ(groundCursorAfter(1, kKeyUp), 19);
   auto after = [](int k, int key) {
     moveSubSectorCursor(k, key);
     return k;

@@ -62,10 +62,8 @@ TEST_F(DayTest, ANewGamesFoodFeeds43MouthsFor23Days) {
 TEST_F(DayTest, AFamineWarnsOnceAndEndsInTheCrewEatingTheCaptain) {
   ship.setFood(0);
   EXPECT_EQ(endDay("x").front(), "Your mothership has run out of food!");  // with the warning
-  EXPECT_EQ(ship.moraleWhole(), 85);
-  for (int morale : {70, 55, 40, 25, 10}) {
-    EXPECT_EQ(endDay().front(), "Your mothership has run out of food!");
-    EXPECT_EQ(ship.moraleWhole(), morale);
+  for (int day = 2; day <= 6; ++day) {
+    EXPECT_EQ(endDay().front(), "Your mothership has run out of food!") << day;
   }
   EXPECT_FALSE(isGameOver());
   endDay("x");  // the seventh day
