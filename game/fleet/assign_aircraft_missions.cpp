@@ -21,11 +21,6 @@ constexpr int kBoxColour = 2;
 
 enum Column { kLocationColumn, kAircraftColumn, kMissionColumn, kColumnCount };
 
-struct ColumnShape {
-  const char* tab;
-  int tabColumn, listColumn, width;
-};
-
 constexpr ColumnShape kColumns[kColumnCount] = {
     {" LOCATION ", 4, 4, 13},
     {" AIRCRAFT ", 19, 19, 21},

@@ -22,11 +22,6 @@ constexpr int kBoxColour = 2;
 
 enum Column { kLocationColumn, kAircraftColumn, kCrewColumn, kOnboardColumn, kColumnCount };
 
-struct ColumnShape {
-  const char* tab;
-  int tabColumn, listColumn, width;
-};
-
 constexpr ColumnShape kColumns[kColumnCount] = {
     {" LOCATION ", 4, 4, 13},
     {" AIRCRAFT ", 19, 19, 16},

@@ -14,3 +14,10 @@ inline constexpr int kTabActive = 225;
 inline constexpr int kTabPlain = 15;
 // A row chosen in a column that is no longer active.
 inline constexpr int kChosenRow = 241;
+
+// One column of such a screen: its tab's label and place, and its list's
+// place and width.
+struct ColumnShape {
+  const char* tab;
+  int tabColumn, listColumn, width;
+};
