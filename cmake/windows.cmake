@@ -63,6 +63,7 @@ if(SKARMADA_TESTS)
   endif()
   add_executable(skarmada_tests ${TEST_SOURCES} game/console/backend_scripted.cpp)
   target_link_libraries(skarmada_tests PRIVATE skarmada_game GTest::gtest GTest::gtest_main)
+  target_compile_definitions(skarmada_tests PRIVATE SKARMADA_GOLDEN_DIR="${CMAKE_CURRENT_SOURCE_DIR}/tests/golden")
 
   # The Windows backend itself, on a real console.
   add_executable(skarmada_console_tests tests/windows/console_backend_test.cpp

@@ -31,6 +31,12 @@ bool refill(bool polling) {
       return true;
     }
     Step& step = script.front();
+    if (step.kind == Step::Call) {
+      std::function<void()> call = std::move(step.call);
+      script.pop_front();
+      call();
+      continue;
+    }
     if (step.kind == Step::Idle) {
       if (!polling) {
         script.pop_front();
@@ -77,10 +83,11 @@ void reset() {
   s = ScreenModel{};
 }
 
-void addKeys(std::vector<KeyEvent> keys) { script.push_back(Step{Step::Keys, std::move(keys), 0}); }
+void addKeys(std::vector<KeyEvent> keys) { script.push_back(Step{Step::Keys, std::move(keys), 0, {}}); }
 void addKey(KeyEvent key) { addKeys(std::vector<KeyEvent>{key}); }
-void addIdle(int passes) { script.push_back(Step{Step::Idle, {}, passes}); }
-void addBusy(std::vector<KeyEvent> keys) { script.push_back(Step{Step::Busy, std::move(keys), 0}); }
+void addIdle(int passes) { script.push_back(Step{Step::Idle, {}, passes, {}}); }
+void addBusy(std::vector<KeyEvent> keys) { script.push_back(Step{Step::Busy, std::move(keys), 0, {}}); }
+void addCall(std::function<void()> call) { script.push_back(Step{Step::Call, {}, 0, std::move(call)}); }
 
 void addKeys(const std::string& names) {
   std::istringstream in(names);

@@ -8,6 +8,8 @@
 //   idle     the polling loops find no key for this many passes
 //   busy     keys pressed while the game is busy: they reach the queue the
 //            next time the game sleeps, so that a flush can drop them
+//   call     a function the test runs when the game next looks for input
+//            with this step next, to read the screen at that moment
 // A player can also be a function (setPlayer): once the script is used up,
 // it is asked for each key the game waits for, and can look at the screen
 // to choose it; it ends the run by giving no key.
@@ -28,9 +30,10 @@ namespace scripted {
 struct ScriptEnded {};
 
 struct Step {
-  enum Kind { Keys, Idle, Busy } kind = Keys;
+  enum Kind { Keys, Idle, Busy, Call } kind = Keys;
   std::vector<KeyEvent> keys;
   int passes = 0;
+  std::function<void()> call;
 };
 
 // Forgets the script, the queue and the clock, and blanks the screen model.
@@ -40,6 +43,7 @@ void addKeys(std::vector<KeyEvent> keys);
 void addKey(KeyEvent key);
 void addIdle(int passes);
 void addBusy(std::vector<KeyEvent> keys);
+void addCall(std::function<void()> call);
 
 // The player asked for keys once the script is used up; false ends the run.
 void setPlayer(std::function<bool(KeyEvent& key)> player);
