@@ -1,5 +1,6 @@
 #include "tests/support/fuzz_driver.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <iterator>
 #include <set>
@@ -22,26 +23,29 @@ const char* const kKeys[32] = {
     "Esc",       "Esc",     "y",    "n",     "PgUp",  "PgDn",  "Tab",     "Space",
     "Backspace", "Release", "0",    "1",     "2",     "3",     "Release", "Enter"};
 
-// The forces of the whole world, which only the player's weapons change.
-struct WorldTotals {
-  double population = 0, troops = 0, fighters = 0, structures = 0;
+// The forces on the ground, which only the player's weapons change: a
+// figure never grows, but for one bombed below 0 that the Ion Cannon sets
+// back to 0.
+struct Forces {
+  double figures[kSectorCount][kSubSectorCount][4];
 };
 
-WorldTotals worldTotals() {
-  WorldTotals t;
+Forces forcesNow() {
+  Forces f;
   for (int n = 1; n <= kSectorCount; ++n) {
     for (int k = 0; k < kSubSectorCount; ++k) {
       const SubSector& sub = thePlanet().subSector(n, k);
-      t.population += sub.population();
-      t.troops += sub.troops();
-      t.fighters += sub.fighters();
-      t.structures += sub.structures();
+      double* figures = f.figures[n - 1][k];
+      figures[0] = sub.population();
+      figures[1] = sub.troops();
+      figures[2] = sub.fighters();
+      figures[3] = sub.structures();
     }
   }
-  return t;
+  return f;
 }
 
-WorldTotals lastTotals;
+Forces lastForces;
 
 std::string checkLists() {
   const Mothership& ship = theMothership();
@@ -85,7 +89,6 @@ std::string checkLists() {
 std::string checkInvariants() {
   const Mothership& ship = theMothership();
   if (ship.fuel() < 0) return "fuel below 0";
-  if (ship.materials() < 0) return "materials below 0";
   if (ship.morale() < 0.0f || ship.morale() > 100.0f) return "morale outside 0 to 100";
   if (ship.currentSector() < 0 || ship.currentSector() > kSectorCount)
     return "the ship is off the map";
@@ -96,17 +99,21 @@ std::string checkInvariants() {
     return "cargoUsed is not the sum of the hold";
   for (int n = 1; n <= kSectorCount; ++n) {
     const Bunker& bunker = thePlanet().sector(n).bunker();
-    if (bunker.getFood() < 0 || bunker.materials() < 0) return "a bunker's store below 0";
+    if (bunker.getFood() < 0) return "a bunker's food below 0";
     if (bunker.getSubSector() < -1 || bunker.getSubSector() > 15) return "a bunker off its sector";
     if (bunker.progress() < 0) return "a bunker's work below 0";
   }
   if (std::string f = checkLists(); !f.empty()) return f;
-  const WorldTotals now = worldTotals();
-  if (now.population > lastTotals.population || now.troops > lastTotals.troops ||
-      now.fighters > lastTotals.fighters || now.structures > lastTotals.structures) {
-    return "the world's forces grew";
+  const Forces now = forcesNow();
+  for (int n = 0; n < kSectorCount; ++n) {
+    for (int k = 0; k < kSubSectorCount; ++k) {
+      for (int i = 0; i < 4; ++i) {
+        if (now.figures[n][k][i] > std::max(lastForces.figures[n][k][i], 0.0))
+          return "the forces of sector " + std::to_string(n + 1) + " grew";
+      }
+    }
   }
-  lastTotals = now;
+  lastForces = now;
   const ScreenModel& screen = Console::screen();
   if (screen.row < 0 || screen.row > kScreenHeight || screen.column < 0 ||
       screen.column > kScreenWidth) {
@@ -115,7 +122,7 @@ std::string checkInvariants() {
   return "";
 }
 
-void watchInvariantsFromNow() { lastTotals = worldTotals(); }
+void watchInvariantsFromNow() { lastForces = forcesNow(); }
 
 FuzzResult fuzzGame(const std::function<int()>& nextByte, std::int64_t maxKeys, unsigned seed) {
   FuzzResult result;

@@ -1,8 +1,9 @@
 // Plays the whole program from its title menu with keys made from a stream
-// of bytes, and checks the game's invariants before every key: the stores
+// of bytes, and checks the game's invariants before every key: fuel and food
 // never below 0, morale within 0 to 100, the hold and the dock as their
 // formulas give them, every list within its capacity, every craft and crew
-// member in exactly one place, the world's forces only ever falling.
+// member in exactly one place, no force on the ground ever growing (but for
+// one bombed below 0 that the Ion Cannon sets back to 0).
 //
 // A byte is a key (weighted toward the arrows, Enter and Escape), a few
 // idle passes for the polling screens, a burst of several keys at once, or
@@ -28,7 +29,7 @@ FuzzResult fuzzGame(const std::function<int()>& nextByte, std::int64_t maxKeys, 
 FuzzResult fuzzGameWithSeed(std::uint32_t seed, std::int64_t maxKeys);
 
 // What the invariants find wrong with the game now; empty if nothing. The
-// world's forces are compared with those of the last check, or of
+// forces are compared with those of the last check, or of
 // watchInvariantsFromNow.
 std::string checkInvariants();
 void watchInvariantsFromNow();
