@@ -50,10 +50,11 @@ class QuietHandler(http.server.SimpleHTTPRequestHandler):
 
 
 @contextlib.contextmanager
-def serve(folder):
-    """Serves `folder` on 127.0.0.1 at a free port; yields the page's URL."""
+def serve(folder, port=0):
+    """Serves `folder` on 127.0.0.1 at `port` (0: a free one); yields the
+    page's URL. The server stops at the end of the block."""
     handler = functools.partial(QuietHandler, directory=folder)
-    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler)
+    server = http.server.ThreadingHTTPServer(("127.0.0.1", port), handler)
     thread = threading.Thread(target=server.serve_forever, daemon=True)
     thread.start()
     try:
