@@ -417,8 +417,11 @@
         release();
         if (!running) return;
         held = button;
-        button.classList.add("down-now");
-        pushKey(key, performance.now());
+        pushKey(key, event.timeStamp);
+        // The key sinks in the frame after the game's answer, not before it.
+        requestAnimationFrame(() => setTimeout(() => {
+          if (held === button) button.classList.add("down-now");
+        }, 0));
         if (arrow) {
           repeat = setTimeout(() => {
             repeat = setInterval(() => pushKey(key, performance.now()), REPEAT_EVERY_MS);
@@ -537,8 +540,8 @@
   function start() {
     if (location.protocol === "file:") {
       fail("This page was opened as a file, and a browser runs the game only from a server.",
-        ["Serve the page's folder and open it from there: in the game's folder run ",
-          { code: SERVE_COMMAND }, " and open ", { code: "http://127.0.0.1:8000/" }, "."], false);
+        ["Serve the page's folder and open it from there: in the game's folder run",
+          { code: SERVE_COMMAND }, "then open", { code: "http://127.0.0.1:8000/" }], false);
       return;
     }
     if (typeof WebAssembly !== "object" || typeof WebAssembly.instantiate !== "function") {
