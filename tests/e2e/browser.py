@@ -215,6 +215,8 @@ def check_offline(driver, folder):
             WebDriverWait(driver, 10).until(
                 lambda d: d.execute_async_script(KEPT_FILES) >= files,
                 "the service worker did not keep the page's files")
+            errors = driver.execute_cdp_cmd("Page.getInstallabilityErrors", {})
+            check(not errors["installabilityErrors"], f"the page cannot be installed: {errors}")
         port = int(url.split(":")[2].split("/")[0])
         page.open(url)
         page.wait_for("NEW GAME", 20)
