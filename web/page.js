@@ -486,16 +486,25 @@
 
   const REBUILD = "Check that the page's folder holds every file of the build " +
     "(build the page again if not), then try again.";
+  const RECONNECT = "Check the connection and that the server is running, then try again.";
+
+  // A failure to show: what happened, and what to do about it.
+  function failure(what, todo) {
+    const error = new Error(what);
+    error.todo = todo;
+    return error;
+  }
 
   // The game's code, fetched with its progress shown; any failure says which
   // file and what to do.
   function fetchWasm() {
     return fetch(WASM, { credentials: "same-origin" }).catch(() => {
-      throw new Error(`The game's file ${WASM} could not be fetched: the server did not answer.`);
+      throw failure(`The game's file ${WASM} could not be fetched: the server did not answer.`,
+        RECONNECT);
     }).then((response) => {
       if (!response.ok) {
-        throw new Error(`The game's file ${WASM} could not be fetched: the server answered ` +
-          `${response.status} ${response.statusText}.`.replace(" .", "."));
+        throw failure(`The game's file ${WASM} could not be fetched: the server answered ` +
+          `${response.status} ${response.statusText}.`.replace(" .", "."), REBUILD);
       }
       const total = Number(response.headers.get("Content-Length")) || 0;
       if (!response.body) return response.arrayBuffer();
@@ -522,18 +531,19 @@
         }
         return bytes;
       }, () => {
-        throw new Error(`The game's file ${WASM} stopped coming halfway: the server stopped answering.`);
+        throw failure(`The game's file ${WASM} stopped coming halfway: the server stopped ` +
+          "answering.", RECONNECT);
       });
     });
   }
 
   function instantiate(imports, receiveInstance, wasm) {
     wasm.then((bytes) => WebAssembly.instantiate(bytes, imports).catch((error) => {
-      throw new Error(`The game's file ${WASM} is damaged (${error.message}).`);
+      throw failure(`The game's file ${WASM} is damaged (${error.message}).`, REBUILD);
     })).then((result) => {
       showProgress("Starting…");
       receiveInstance(result.instance, result.module);
-    }).catch((error) => fail(error.message, [REBUILD], true));
+    }).catch((error) => fail(error.message, [error.todo || REBUILD], true));
     return {};
   }
 

@@ -26,6 +26,7 @@
 // day) until the title menu is back or the program ends.
 #include <emscripten.h>
 
+#include <cassert>
 #include <cstdint>
 
 #include "game/console/backend.h"
@@ -47,7 +48,22 @@ int passesSinceWait = 0;
 double nextWake = 0.0;  // when the current wait of a moving screen should end
 bool playing = false;
 
-bool textAt(const ScreenModel& screen, int row, int column, const char* text) {
+// Where the game is told from the screen: the status bar's first row, and
+// two entries of the title menu.
+struct ScreenText {
+  int row;
+  int column;
+  const char* text;
+};
+constexpr ScreenText kStatusBarDay = {23, 0, " DAY:"};
+constexpr ScreenText kTitleNewGame = {15, 17, "NEW GAME"};
+constexpr ScreenText kTitleExit = {23, 19, "EXIT"};
+
+bool textAt(const ScreenModel& screen, ScreenText at) {
+  const int row = at.row;
+  const int column = at.column;
+  const char* text = at.text;
+  assert(row >= 0 && row < kScreenHeight && column >= 0);
   for (int i = 0; text[i] != '\0'; ++i) {
     if (column + i >= kScreenWidth) return false;
     if (screen.cells[row][column + i].code != static_cast<std::uint8_t>(text[i])) return false;
@@ -55,10 +71,9 @@ bool textAt(const ScreenModel& screen, int row, int column, const char* text) {
   return true;
 }
 
-// The status bar's first row, and two entries of the title menu.
 bool gameOn(const ScreenModel& screen, bool wasOn) {
-  if (textAt(screen, 23, 0, " DAY:")) return true;
-  if (textAt(screen, 15, 17, "NEW GAME") && textAt(screen, 23, 19, "EXIT")) return false;
+  if (textAt(screen, kStatusBarDay)) return true;
+  if (textAt(screen, kTitleNewGame) && textAt(screen, kTitleExit)) return false;
   return wasOn;
 }
 

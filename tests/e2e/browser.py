@@ -161,6 +161,15 @@ def check_loading_and_failing(driver, folder):
             check(any(0 < figure < 100 for figure in figures), f"no progress figure: {seen}")
             page.wait_for("NEW GAME")
 
+            # The network gone halfway through: the wasm never comes.
+            driver.execute_cdp_cmd("Network.setBlockedURLs", {"urls": ["*skarmada.wasm"]})
+            driver.execute_cdp_cmd("Network.setBypassServiceWorker", {"bypass": True})
+            page.open(url)
+            text, retry = wait_for_failure(driver, "a blocked skarmada.wasm")
+            driver.execute_cdp_cmd("Network.setBlockedURLs", {"urls": []})
+            check("did not answer" in text and "connection" in text and retry,
+                  f'without the network, the page says "{text}"')
+
             broken = (
                 ("a missing skarmada.wasm", lambda: os.remove(wasm), ["skarmada.wasm", "404"]),
                 ("a corrupt skarmada.wasm", lambda: open(wasm, "wb").write(b"\0asm" + bytes(999)),
