@@ -92,6 +92,21 @@ def row(page, number):
     return page.rows()[number].rstrip()
 
 
+def tap_changes(page, label, row, first, last):
+    """Taps a key and waits until the cells from `first` to `last` of `row`
+    change, text or colour: the game took the key."""
+    def cells():
+        text, colours = page.screen()[row]
+        return text[first:last + 1], colours[first:last + 1]
+    before = cells()
+    tap_key(page.driver, label)
+    until = time.monotonic() + 5
+    while cells() == before:
+        check(time.monotonic() < until, f"the key {label} changed nothing on row {row}",
+              page.screen())
+        time.sleep(0.02)
+
+
 def tap_until(page, label, text, seconds=5.0, hold=0.0):
     tap_key(page.driver, label, hold)
     return page.wait_for(text, seconds)
@@ -122,16 +137,14 @@ def play_by_taps(page, url, where):
     tap_until(page, "Enter", "Assign Crew Jobs")
     screen = tap_until(page, "Enter", "MAINTENANCE")
     first, second = (screen[r][0][4:26].rstrip() for r in (4, 5))
-    tap_key(driver, "Enter")
-    time.sleep(0.2)
+    tap_changes(page, "Enter", 4, 4, 25)
     tap_key(driver, "Down")
     until = time.monotonic() + 3
     while page.rows()[5][4:26].rstrip() != first:
         check(time.monotonic() < until, f"{where}: {first} was not carried down a row", page.screen())
         time.sleep(0.05)
     check(page.rows()[4][4:26].rstrip() == second, f"{where}: {second} did not move up", page.screen())
-    tap_key(driver, "Enter")
-    time.sleep(0.2)
+    tap_changes(page, "Enter", 5, 4, 25)
     tap_until(page, "Escape", "Auto Assign/Sort Crew")
     tap_until(page, "Escape", " LIVING:")
 
@@ -139,15 +152,13 @@ def play_by_taps(page, url, where):
     tap_until(page, "Down", " RESEARCH:")
     tap_until(page, "Down", " LIBRARY:")
     tap_until(page, "Enter", "End Turn Factor 6")
-    tap_key(driver, "Down")
-    time.sleep(0.2)
+    tap_changes(page, "Down", 8, 40, 70)
     tap_until(page, "Enter", "End Day?")
     screen = tap_until(page, "Y", "DAY:    2", 10)
 
     # A game is on: leaving asks. After it, the title; EXIT, and again.
     check(leave_asks(page), f"{where}: reloading in a game does not ask first")
-    tap_until(page, "Up", "NEW GAME")
-    time.sleep(0.2)
+    tap_changes(page, "Up", 23, 19, 22)
     driver.get_log("performance")
     tap_key(driver, "Enter")
     WebDriverWait(driver, 5).until(
