@@ -86,6 +86,13 @@ def check_joins(page):
     check(all(all(line) for line in lit), "two full blocks one above the other leave a gap")
 
 
+def wakes_a_second(driver, seconds):
+    """How often the game resumed, a second, over `seconds`."""
+    before = driver.execute_script("return window.skarmadaStats.wakes")
+    time.sleep(seconds)
+    return (driver.execute_script("return window.skarmadaStats.wakes") - before) / seconds
+
+
 def check_scaling(driver):
     """The screen keeps its 80x25 shape at any window size, says when it is
     too small to read, and the page never scrolls. No pad without touch."""
@@ -264,6 +271,7 @@ def main():
                                           for text, cells in screen),
               "the page's text is not 25 rows of 80 cells", screen)
         check("EXIT" in screen[23][0], "EXIT is not on the title", screen)
+        check(wakes_a_second(driver, 1) >= 25, "the title's lights do not keep their beat")
         origins = driver.execute_script(
             "return performance.getEntriesByType('resource').map(e => new URL(e.name).origin)")
         check(set(origins) <= {url.rsplit("/", 1)[0]}, f"the page fetched from {set(origins)}")
@@ -297,6 +305,11 @@ def main():
         check(colours(screen, research) == {YELLOW}, "the research room is not lit", screen)
         check(YELLOW not in colours(screen, nav), "NAV COM stays lit", screen)
         driver.save_screenshot(os.path.join(artefacts, "ship_map.png"))
+
+        # A still ship map wakes the tab at most once a second; the title's
+        # lights keep their beat of 30 ms.
+        time.sleep(1)
+        check(wakes_a_second(driver, 2) <= 1, "a still ship map keeps waking the tab")
 
         # A day ends from the Library.
         page.key("Down")
