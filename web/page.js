@@ -451,6 +451,7 @@
 
   function showEnded(text) {
     running = false;
+    playing = false;
     document.body.classList.add("ended");
     keys.length = 0;
     document.getElementById("ended-what").textContent = text;
