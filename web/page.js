@@ -396,8 +396,11 @@
 
   // The pad: a key goes to the game as it is pressed; a held arrow repeats.
   // The page keeps the focus, so that a keyboard still works beside it. A
-  // screen reader's click (no pointer) presses the key once.
+  // touch makes no click (the browser's tap handling would cost the frame
+  // that shows the game's answer); a screen reader's click, which comes
+  // with no pointer, presses the key once.
   function setUpPad() {
+    pad.addEventListener("touchstart", (event) => event.preventDefault(), { passive: false });
     let repeat = 0;
     let held = null;
     function release() {
@@ -410,10 +413,8 @@
     pad.querySelectorAll("button").forEach((button) => {
       const key = NAMED_KEYS[button.dataset.key];
       const arrow = button.dataset.key.startsWith("Arrow");
-      let fromPointer = false;
       button.addEventListener("pointerdown", (event) => {
         event.preventDefault();
-        fromPointer = true;
         release();
         if (!running) return;
         held = button;
@@ -433,10 +434,6 @@
       }
       button.addEventListener("contextmenu", (event) => event.preventDefault());
       button.addEventListener("click", (event) => {
-        if (fromPointer) {
-          fromPointer = false;
-          return;
-        }
         if (running && event.detail === 0) pushKey(key, performance.now());
       });
     });
