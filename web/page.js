@@ -3,7 +3,13 @@
 //
 // The game (skarmada.js and skarmada.wasm, built from the same sources as
 // the terminal game) calls Module.skarmada: open, paint (the cells that
-// changed), nextKey, flushKeys, wait and close.
+// changed), nextKey, flushKeys, wait, playing and close.
+//
+// On a touch screen a pad of keys stands beside the screen (landscape) or
+// under it (portrait). Until the title is drawn a cover shows the game's
+// name and how much of it has loaded, or what went wrong and what to do.
+// Once the title is drawn, a service worker (sw.js) keeps the page's files
+// for playing offline.
 "use strict";
 
 (function () {
@@ -12,6 +18,17 @@
   const CELLS = COLUMNS * ROWS;
   // Below this cell width (CSS pixels) the text is too small to read.
   const MIN_CELL_WIDTH = 6;
+  // The pad's keys: their side in CSS pixels (a thumb needs 44), the space
+  // between them and around the pad; a held arrow repeats as a keyboard's.
+  const MIN_KEY = 44;
+  const MAX_KEY = 64;
+  const KEY_GAP = 8;
+  const PAD_MARGIN = 12;
+  const REPEAT_DELAY_MS = 500;
+  const REPEAT_EVERY_MS = 50;
+  const WASM = "skarmada.wasm";
+  const SCRIPT = "skarmada.js";
+  const SERVE_COMMAND = "python3 -m http.server -d build-web/web 8000";
 
   // The text console's 16 colours.
   const PALETTE = [
@@ -48,6 +65,7 @@
     PageUp: [33, 0], PageDown: [34, 0], Home: [36, 0], End: [35, 0],
     Insert: [45, 0], Delete: [46, 0],
     Enter: [13, 13], Escape: [27, 27], Backspace: [8, 8], Tab: [9, 9], " ": [32, 32],
+    y: [89, 121], n: [78, 110],
   };
 
   const screenElement = document.getElementById("console");
@@ -65,6 +83,12 @@
   const textLayer = document.getElementById("text");
   const tooSmall = document.getElementById("too-small");
   const ended = document.getElementById("ended");
+  const pad = document.getElementById("pad");
+  const arrowKeys = pad.querySelector(".arrows");
+  const actionKeys = pad.querySelector(".actions");
+  const loading = document.getElementById("loading");
+  const progress = document.getElementById("progress");
+  const failed = document.getElementById("failed");
 
   const codes = new Uint8Array(CELLS).fill(32);
   const colours = new Uint8Array(CELLS).fill(15);
@@ -76,14 +100,16 @@
   const keys = [];
   let wakeOnKey = null;
   let running = false;
+  let playing = false;
+  let padShown = navigator.maxTouchPoints > 0 || window.matchMedia("(any-pointer: coarse)").matches;
 
   // Cell size in device pixels; whole numbers, so that cells join exactly.
   let cellWidth = 8;
   let cellHeight = 16;
 
-  // Figures for the benchmark: when the first screen was drawn, and how long
-  // each key took to reach a frame.
-  const stats = { firstPaint: -1, keyToFrame: [], paints: 0 };
+  // Figures for the benchmark: when the first screen was drawn, how long
+  // each key took to reach a frame, and how often the game woke.
+  const stats = { firstPaint: -1, keyToFrame: [], paints: 0, wakes: 0 };
   let keyTime = -1;
   window.skarmadaStats = stats;
 
@@ -116,12 +142,66 @@
     line.dataset.bg = bg;
   }
 
-  // Fits the screen to the window, keeping 80x25 cells of 1 by 2.
+  // Where the screen and the pad go: the screen as large as the window
+  // leaves it in whole device pixels per cell, keeping 80x25 cells of 1 by
+  // 2. With the pad, the two arrangements are tried (the pad's two blocks
+  // one above the other beside the screen, or side by side under it) and
+  // the one with the larger screen is taken; then the keys grow into the
+  // room the screen leaves, up to MAX_KEY. The result depends on the
+  // window's size alone, so turning a phone and back gives the same page.
+  function cellFor(width, height, ratio) {
+    return Math.max(1, Math.floor(Math.min((width * ratio) / COLUMNS, (height * ratio) / (ROWS * 2))));
+  }
+
+  function blockSide(key) {
+    return 3 * key + 2 * KEY_GAP;
+  }
+
+  function keyFor(side) {
+    return Math.floor((side - 2 * KEY_GAP) / 3);
+  }
+
+  function plan(width, height, ratio) {
+    if (!padShown) return { cell: cellFor(width, height, ratio), area: [0, 0, width, height] };
+    const block = blockSide(MIN_KEY) + 2 * PAD_MARGIN;
+    const beside = cellFor(width - block, height, ratio);
+    const under = cellFor(width, height - block, ratio);
+    if (beside >= under) {
+      const screenWidth = (beside * COLUMNS) / ratio;
+      const key = Math.max(MIN_KEY, Math.min(MAX_KEY,
+        keyFor(width - screenWidth - 2 * PAD_MARGIN),
+        keyFor((height - 2 * PAD_MARGIN - KEY_GAP * 2) / 2)));
+      const side = blockSide(key);
+      const left = width - PAD_MARGIN - side;
+      const top = Math.floor((height - 2 * side - 2 * KEY_GAP) / 2);
+      return {
+        cell: beside, area: [0, 0, left - PAD_MARGIN, height], key,
+        arrows: [left, top], actions: [left, top + side + 2 * KEY_GAP],
+      };
+    }
+    const screenHeight = (under * ROWS * 2) / ratio;
+    const key = Math.max(MIN_KEY, Math.min(MAX_KEY,
+      keyFor(height - screenHeight - 2 * PAD_MARGIN),
+      keyFor((width - 2 * PAD_MARGIN - KEY_GAP * 2) / 2)));
+    const side = blockSide(key);
+    const top = height - PAD_MARGIN - side;
+    return {
+      cell: under, area: [0, 0, width, top - PAD_MARGIN], key,
+      arrows: [PAD_MARGIN, top], actions: [width - PAD_MARGIN - side, top],
+    };
+  }
+
+  // A CSS length on the device's pixel grid, so that cells join exactly.
+  function snap(length, ratio) {
+    return Math.floor(length * ratio) / ratio;
+  }
+
   function layout() {
     const ratio = window.devicePixelRatio || 1;
-    const width = Math.floor(Math.min(
-      (window.innerWidth * ratio) / COLUMNS, (window.innerHeight * ratio) / (ROWS * 2)));
-    cellWidth = Math.max(1, width);
+    const width = document.documentElement.clientWidth;
+    const height = document.documentElement.clientHeight;
+    const placed = plan(width, height, ratio);
+    cellWidth = placed.cell;
     cellHeight = cellWidth * 2;
     const cssWidth = (cellWidth * COLUMNS) / ratio;
     const cssHeight = (cellHeight * ROWS) / ratio;
@@ -140,9 +220,20 @@
       rowContext.textBaseline = "middle";
       rowContext.font = font;
     });
-    screenElement.style.left = Math.floor((window.innerWidth - cssWidth) / 2) + "px";
-    screenElement.style.top = Math.floor((window.innerHeight - cssHeight) / 2) + "px";
-    tooSmall.hidden = cssWidth / COLUMNS >= MIN_CELL_WIDTH;
+    const [areaLeft, areaTop, areaWidth, areaHeight] = placed.area;
+    screenElement.style.left = snap(areaLeft + Math.max(0, (areaWidth - cssWidth) / 2), ratio) + "px";
+    screenElement.style.top = snap(areaTop + Math.max(0, (areaHeight - cssHeight) / 2), ratio) + "px";
+    pad.hidden = !padShown;
+    if (padShown) {
+      pad.style.setProperty("--key", placed.key + "px");
+      pad.style.setProperty("--gap", KEY_GAP + "px");
+      arrowKeys.style.left = placed.arrows[0] + "px";
+      arrowKeys.style.top = placed.arrows[1] + "px";
+      actionKeys.style.left = placed.actions[0] + "px";
+      actionKeys.style.top = placed.actions[1] + "px";
+    }
+    // A phone cannot be made larger: it is told nothing.
+    tooSmall.hidden = padShown || cssWidth / COLUMNS >= MIN_CELL_WIDTH;
     for (let index = 0; index < CELLS; ++index) drawCell(index);
   }
 
@@ -276,6 +367,13 @@
     requestAnimationFrame(() => stats.keyToFrame.push(performance.now() - from));
   }
 
+  // A key for the game: virtual key and character, and when it was pressed.
+  function pushKey(key, time) {
+    keys.push(key[0] * 256 + key[1]);
+    keyTime = time;
+    if (wakeOnKey) wakeOnKey();
+  }
+
   // Keys: the game sees key-downs of the keys it knows; the browser keeps
   // its own shortcuts (anything with Ctrl, Alt or Meta, the function keys).
   function onKey(event) {
@@ -293,17 +391,195 @@
       key = [virtualKey, character];
     }
     event.preventDefault();
-    keys.push(key[0] * 256 + key[1]);
-    keyTime = event.timeStamp;
-    if (wakeOnKey) wakeOnKey();
+    pushKey(key, event.timeStamp);
   }
 
-  function showEnded() {
+  // The pad: a key goes to the game as it is pressed; a held arrow repeats.
+  // The page keeps the focus, so that a keyboard still works beside it. A
+  // touch makes no click (the browser's tap handling would cost the frame
+  // that shows the game's answer); a screen reader's click, which comes
+  // with no pointer, presses the key once.
+  function setUpPad() {
+    pad.addEventListener("touchstart", (event) => event.preventDefault(), { passive: false });
+    let repeat = 0;
+    let held = null;
+    function release() {
+      clearTimeout(repeat);
+      clearInterval(repeat);
+      repeat = 0;
+      if (held) held.classList.remove("down-now");
+      held = null;
+    }
+    pad.querySelectorAll("button").forEach((button) => {
+      const key = NAMED_KEYS[button.dataset.key];
+      const arrow = button.dataset.key.startsWith("Arrow");
+      button.addEventListener("pointerdown", (event) => {
+        event.preventDefault();
+        release();
+        if (!running) return;
+        held = button;
+        pushKey(key, event.timeStamp);
+        // The key sinks in the frame after the game's answer, not before it.
+        requestAnimationFrame(() => setTimeout(() => {
+          if (held === button) button.classList.add("down-now");
+        }, 0));
+        if (arrow) {
+          repeat = setTimeout(() => {
+            repeat = setInterval(() => pushKey(key, performance.now()), REPEAT_EVERY_MS);
+          }, REPEAT_DELAY_MS);
+        }
+      });
+      for (const name of ["pointerup", "pointercancel", "lostpointercapture"]) {
+        button.addEventListener(name, release);
+      }
+      button.addEventListener("contextmenu", (event) => event.preventDefault());
+      button.addEventListener("click", (event) => {
+        if (running && event.detail === 0) pushKey(key, performance.now());
+      });
+    });
+  }
+
+  // Anything touched shows the pad, whatever the device said of itself.
+  function onTouch(event) {
+    if (padShown || event.pointerType !== "touch") return;
+    padShown = true;
+    layout();
+  }
+
+  function showEnded(text) {
     running = false;
+    playing = false;
     document.body.classList.add("ended");
     keys.length = 0;
+    document.getElementById("ended-what").textContent = text;
     ended.hidden = false;
     document.getElementById("again").focus();
+  }
+
+  // Loading and failing.
+  function showProgress(text) {
+    progress.textContent = text;
+  }
+
+  // `todo` is a list of strings and {code: ...} for a command to type.
+  function fail(what, todo, retry) {
+    running = false;
+    document.getElementById("failed-what").textContent = what;
+    const todoElement = document.getElementById("failed-todo");
+    todoElement.textContent = "";
+    for (const part of todo) {
+      if (typeof part === "string") {
+        todoElement.appendChild(document.createTextNode(part));
+      } else {
+        const code = document.createElement("code");
+        code.textContent = part.code;
+        todoElement.appendChild(code);
+      }
+    }
+    document.getElementById("retry").hidden = !retry;
+    loading.hidden = true;
+    failed.hidden = false;
+    if (retry) document.getElementById("retry").focus();
+  }
+
+  const REBUILD = "Check that the page's folder holds every file of the build " +
+    "(build the page again if not), then try again.";
+  const RECONNECT = "Check the connection and that the server is running, then try again.";
+
+  // A failure to show: what happened, and what to do about it.
+  function failure(what, todo) {
+    const error = new Error(what);
+    error.todo = todo;
+    return error;
+  }
+
+  // The game's code, fetched with its progress shown; any failure says which
+  // file and what to do.
+  function fetchWasm() {
+    return fetch(WASM, { credentials: "same-origin" }).catch(() => {
+      throw failure(`The game's file ${WASM} could not be fetched: the server did not answer.`,
+        RECONNECT);
+    }).then((response) => {
+      if (!response.ok) {
+        throw failure(`The game's file ${WASM} could not be fetched: the server answered ` +
+          `${response.status} ${response.statusText}.`.replace(" .", "."), REBUILD);
+      }
+      const total = Number(response.headers.get("Content-Length")) || 0;
+      if (!response.body) return response.arrayBuffer();
+      const reader = response.body.getReader();
+      const parts = [];
+      let received = 0;
+      function next() {
+        return reader.read().then(({ done, value }) => {
+          if (done) return;
+          parts.push(value);
+          received += value.length;
+          showProgress(total > 0
+            ? `Loading ${Math.min(100, Math.floor((received * 100) / total))}%`
+            : `Loading ${Math.floor(received / 1024)} KiB`);
+          return next();
+        });
+      }
+      return next().then(() => {
+        const bytes = new Uint8Array(received);
+        let at = 0;
+        for (const part of parts) {
+          bytes.set(part, at);
+          at += part.length;
+        }
+        return bytes;
+      }, () => {
+        throw failure(`The game's file ${WASM} stopped coming halfway: the server stopped ` +
+          "answering.", RECONNECT);
+      });
+    });
+  }
+
+  function instantiate(imports, receiveInstance, wasm) {
+    wasm.then((bytes) => WebAssembly.instantiate(bytes, imports).catch((error) => {
+      throw failure(`The game's file ${WASM} is damaged (${error.message}).`, REBUILD);
+    })).then((result) => {
+      showProgress("Starting…");
+      receiveInstance(result.instance, result.module);
+    }).catch((error) => fail(error.message, [error.todo || REBUILD], true));
+    return {};
+  }
+
+  function start() {
+    if (location.protocol === "file:") {
+      fail("This page was opened as a file, and a browser runs the game only from a server.",
+        ["Serve the page's folder and open it from there: in the game's folder run",
+          { code: SERVE_COMMAND }, "then open", { code: "http://127.0.0.1:8000/" }], false);
+      return;
+    }
+    if (typeof WebAssembly !== "object" || typeof WebAssembly.instantiate !== "function") {
+      fail("This browser cannot run WebAssembly, which the game is made of.",
+        ["Open the page in a current browser, with WebAssembly turned on."], false);
+      return;
+    }
+    const wasm = fetchWasm();
+    window.Module = {
+      skarmada: page,
+      print: (text) => console.log(text),
+      printErr: (text) => console.warn(text),
+      instantiateWasm: (imports, receiveInstance) => instantiate(imports, receiveInstance, wasm),
+      onAbort: (what) => {
+        if (stats.firstPaint < 0) fail(`The game stopped while starting (${what}).`, [REBUILD], true);
+        else showEnded("The game stopped on an error.");
+      },
+    };
+    const script = document.createElement("script");
+    script.src = SCRIPT;
+    script.onerror = () => fail(`The game's file ${SCRIPT} could not be fetched.`, [REBUILD], true);
+    document.body.appendChild(script);
+  }
+
+  // Offline: once the title is drawn, the service worker keeps the page's
+  // files. A browser allows one on https or on this machine's own address.
+  function keepForOffline() {
+    if (!("serviceWorker" in navigator) || !window.isSecureContext) return;
+    navigator.serviceWorker.register("sw.js").catch((error) =>
+      console.warn(`The page cannot be kept for offline play: ${error.message}`));
   }
 
   const page = {
@@ -313,7 +589,7 @@
       screenElement.focus();
     },
     close() {
-      showEnded();
+      showEnded("The game has ended.");
     },
     paint(changes) {
       const rows = new Uint8Array(ROWS);
@@ -329,7 +605,11 @@
         if (rows[row]) writeRow(row);
       }
       stats.paints += 1;
-      if (stats.firstPaint < 0) stats.firstPaint = performance.now();
+      if (stats.firstPaint < 0) {
+        stats.firstPaint = performance.now();
+        loading.hidden = true;
+        keepForOffline();
+      }
       markFrame();
     },
     nextKey(take) {
@@ -339,6 +619,10 @@
     flushKeys() {
       keys.length = 0;
     },
+    // A game is on: leaving the tab asks first.
+    playing(on) {
+      playing = on;
+    },
     wait(milliseconds, wakeOnKeyWanted, wakeUp) {
       let done = false;
       let timer = 0;
@@ -347,6 +631,7 @@
         done = true;
         if (timer) clearTimeout(timer);
         wakeOnKey = null;
+        stats.wakes += 1;
         wakeUp();
       };
       if (milliseconds >= 0) timer = setTimeout(finish, milliseconds);
@@ -356,15 +641,17 @@
 
   buildTextLayer();
   layout();
+  setUpPad();
   window.addEventListener("resize", layout);
   window.addEventListener("keydown", onKey);
+  window.addEventListener("pointerdown", onTouch, true);
+  window.addEventListener("beforeunload", (event) => {
+    if (!playing) return;
+    event.preventDefault();
+    event.returnValue = "";
+  });
   screenElement.addEventListener("mousedown", () => screenElement.focus());
   document.getElementById("again").addEventListener("click", () => location.reload());
-
-  window.Module = {
-    skarmada: page,
-    print: (text) => console.log(text),
-    printErr: (text) => console.warn(text),
-    onAbort: () => showEnded(),
-  };
+  document.getElementById("retry").addEventListener("click", () => location.reload());
+  start();
 })();

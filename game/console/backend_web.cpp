@@ -15,11 +15,18 @@
 // soon as a key comes. The polling loops are paced as in a terminal, about
 // a millisecond a pass: while the screen moves, thirty passes to a beat of
 // 30 ms (the title's running lights step once a beat, and the tab wakes 33
-// times a second, not 1000); once it has stood still for half a
-// second, every pass waits up to 250 ms, and a key ends the wait at once, so
-// that a waiting screen costs the tab next to nothing.
+// times a second, not 1000). Once the screen has stood still for half a
+// second, a polling loop is only waiting for a key (the ship map, the
+// freighter deck), so the program sleeps until one comes: a still screen
+// wakes the tab not at all. A resize needs no wake either, since the page
+// redraws the cells it keeps.
+//
+// Playing: the page asks before the tab is closed or reloaded while a game
+// is on. The game is on from the first status bar (row 24 starts with the
+// day) until the title menu is back or the program ends.
 #include <emscripten.h>
 
+#include <cassert>
 #include <cstdint>
 
 #include "game/console/backend.h"
@@ -29,8 +36,8 @@ namespace {
 
 constexpr int kPassesPerWait = 30;
 constexpr int kFastWaitMs = 30;
-constexpr int kSlowWaitMs = 250;
 constexpr double kStillAfterMs = 500.0;
+constexpr int kNoLimit = -1;
 constexpr int kCellCount = kScreenWidth * kScreenHeight;
 
 Cell shown[kScreenHeight][kScreenWidth];
@@ -39,6 +46,36 @@ std::uint32_t changes[kCellCount];
 double lastChange = 0.0;
 int passesSinceWait = 0;
 double nextWake = 0.0;  // when the current wait of a moving screen should end
+bool playing = false;
+
+// Where the game is told from the screen: the status bar's first row, and
+// two entries of the title menu.
+struct ScreenText {
+  int row;
+  int column;
+  const char* text;
+};
+constexpr ScreenText kStatusBarDay = {23, 0, " DAY:"};
+constexpr ScreenText kTitleNewGame = {15, 17, "NEW GAME"};
+constexpr ScreenText kTitleExit = {23, 19, "EXIT"};
+
+bool textAt(const ScreenModel& screen, ScreenText at) {
+  const int row = at.row;
+  const int column = at.column;
+  const char* text = at.text;
+  assert(row >= 0 && row < kScreenHeight && column >= 0);
+  for (int i = 0; text[i] != '\0'; ++i) {
+    if (column + i >= kScreenWidth) return false;
+    if (screen.cells[row][column + i].code != static_cast<std::uint8_t>(text[i])) return false;
+  }
+  return true;
+}
+
+bool gameOn(const ScreenModel& screen, bool wasOn) {
+  if (textAt(screen, kStatusBarDay)) return true;
+  if (textAt(screen, kTitleNewGame) && textAt(screen, kTitleExit)) return false;
+  return wasOn;
+}
 
 // One changed cell for the page: index in the top 16 bits, then the colour,
 // then the code.
@@ -64,6 +101,7 @@ EM_JS(void, pagePaint, (const std::uint32_t* cells, int count), {
 // `take` removes it from the queue.
 EM_JS(int, pageNextKey, (int take), { return Module.skarmada.nextKey(take); });
 EM_JS(void, pageFlushKeys, (), { Module.skarmada.flushKeys(); });
+EM_JS(void, pagePlaying, (int on), { Module.skarmada.playing(on !== 0); });
 // Gives the tab back to the browser for up to `milliseconds` (-1: no limit);
 // with `wakeOnKey` a key ends the wait at once.
 EM_JS(void, pageWait, (int milliseconds, int wakeOnKey), {
@@ -85,7 +123,11 @@ void open() {
   lastChange = emscripten_get_now();
 }
 
-void close() { pageClose(); }
+void close() {
+  playing = false;
+  pagePlaying(0);
+  pageClose();
+}
 
 void show(ScreenModel& screen) {
   if (!screen.changed && !fullRepaint) return;
@@ -105,13 +147,18 @@ void show(ScreenModel& screen) {
   if (count > 0) {
     pagePaint(changes, count);
     lastChange = emscripten_get_now();
+    const bool on = gameOn(screen, playing);
+    if (on != playing) {
+      playing = on;
+      pagePlaying(on ? 1 : 0);
+    }
   }
 }
 
 bool keyWaiting() {
   if (pageNextKey(0) >= 0) return true;
   if (emscripten_get_now() - lastChange > kStillAfterMs) {
-    pageWait(kSlowWaitMs, 1);
+    pageWait(kNoLimit, 1);
   } else {
     if (++passesSinceWait < kPassesPerWait) return false;
     passesSinceWait = 0;
@@ -128,7 +175,7 @@ bool keyWaiting() {
 
 KeyEvent readKey() {
   int key;
-  while ((key = pageNextKey(1)) < 0) pageWait(-1, 1);
+  while ((key = pageNextKey(1)) < 0) pageWait(kNoLimit, 1);
   return KeyEvent::press(static_cast<std::uint16_t>(key >> 8), static_cast<std::uint8_t>(key));
 }
 

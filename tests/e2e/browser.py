@@ -7,11 +7,14 @@ goes to ARTEFACT_FOLDER (build-web/artefacts). Exits 0 when every check
 passes, 1 on the first failure."""
 
 import os
+import shutil
 import sys
+import tempfile
 import time
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from browser_support import COLUMNS, ROWS, Page, browser, dump, serve, web_folder  # noqa: E402
+from selenium.webdriver.support.ui import WebDriverWait  # noqa: E402
 from selenium.webdriver.common.action_chains import ActionChains  # noqa: E402
 from selenium.webdriver.common.keys import Keys  # noqa: E402
 
@@ -83,27 +86,169 @@ def check_joins(page):
     check(all(all(line) for line in lit), "two full blocks one above the other leave a gap")
 
 
+def wakes_a_second(driver, seconds):
+    """How often the game resumed, a second, over `seconds`."""
+    before = driver.execute_script("return window.skarmadaStats.wakes")
+    time.sleep(seconds)
+    return (driver.execute_script("return window.skarmadaStats.wakes") - before) / seconds
+
+
 def check_scaling(driver):
-    """The screen keeps its 80x25 shape at any window size and says when it
-    is too small to read."""
-    for width, height in ((1000, 700), (1400, 600), (400, 260)):
+    """The screen keeps its 80x25 shape at any window size, says when it is
+    too small to read, and the page never scrolls. No pad without touch."""
+    for width, height in ((1000, 700), (1400, 600), (400, 260), (1280, 800), (1920, 1080)):
         driver.set_window_size(width, height)
         time.sleep(0.3)
-        size, small = driver.execute_script(
+        size, small, overflow, pad = driver.execute_script(
             "const rows = Array.from(document.querySelectorAll('#glyphs canvas'));"
             "const box = document.getElementById('glyphs').getBoundingClientRect();"
             "const tops = rows.map(c => c.getBoundingClientRect().top - box.top);"
             "const joined = tops.every((t, r) => r === 0 || Math.abs(t - tops[r - 1]"
             " - rows[r - 1].getBoundingClientRect().height) < 0.01);"
+            "const root = document.documentElement;"
             "return [[rows[0].width, rows.reduce((sum, c) => sum + c.height, 0), joined],"
-            " !document.getElementById('too-small').hidden];")
+            " !document.getElementById('too-small').hidden,"
+            " [root.scrollWidth - root.clientWidth, root.scrollHeight - root.clientHeight,"
+            "  innerWidth - root.clientWidth, innerHeight - root.clientHeight],"
+            " !document.getElementById('pad').hidden];")
         check(size[2], f"at {width}x{height} the rows of the screen do not meet")
         check(size[0] % COLUMNS == 0 and size[1] % ROWS == 0 and size[0] * 25 == size[1] * 40,
               f"at {width}x{height} the screen is {size[0]}x{size[1]}, not 80x25 cells of 1 by 2")
         check(small == (width < 480), f"at {width}x{height} the too-small notice is "
               + ("shown" if small else "missing"))
+        check(overflow == [0, 0, 0, 0], f"at {width}x{height} the page scrolls: {overflow}")
+        check(not pad, f"at {width}x{height} a pad shows without a touch screen")
     driver.set_window_size(1000, 700)
     time.sleep(0.3)
+
+
+def cover(driver):
+    """The loading and failure cover: (loading text or None, failure text
+    or None, whether the failure offers to try again)."""
+    return driver.execute_script(
+        "const shown = (id) => !document.getElementById(id).hidden;"
+        "return [shown('loading') ? document.getElementById('loading').innerText : null,"
+        " shown('failed') ? document.getElementById('failed').innerText : null,"
+        " shown('retry')];")
+
+
+def wait_for_failure(driver, where):
+    until = time.monotonic() + 10
+    while (state := cover(driver))[1] is None:
+        check(time.monotonic() < until, f"{where}: no failure is shown ({state})")
+        time.sleep(0.05)
+    check(state[0] is None, f"{where}: the loading cover stays over the failure")
+    return state[1], state[2]
+
+
+def check_loading_and_failing(driver, folder):
+    """A slow connection shows the name and a progress figure until the title
+    is drawn; each way of failing says what happened and what to do."""
+    with tempfile.TemporaryDirectory() as copy:
+        shutil.copytree(folder, copy, dirs_exist_ok=True)
+        wasm = os.path.join(copy, "skarmada.wasm")
+        with serve(copy) as url:
+            page = Page(driver)
+            driver.execute_cdp_cmd("Network.enable", {})
+            driver.execute_cdp_cmd("Network.emulateNetworkConditions", {
+                "offline": False, "latency": 20, "downloadThroughput": 200 * 1024,
+                "uploadThroughput": -1})
+            page.open(url)
+            seen = set()
+            until = time.monotonic() + 20
+            while (state := cover(driver))[0] is not None:
+                seen.add(state[0])
+                check(time.monotonic() < until, "the loading cover never went")
+                time.sleep(0.02)
+            driver.execute_cdp_cmd("Network.emulateNetworkConditions", {
+                "offline": False, "latency": 0, "downloadThroughput": -1, "uploadThroughput": -1})
+            check(any(text.startswith("SKARMADA") for text in seen), f"the cover is {seen}")
+            figures = {int(text.split("Loading ")[1].split("%")[0]) for text in seen
+                       if "Loading " in text and "%" in text}
+            check(any(0 < figure < 100 for figure in figures), f"no progress figure: {seen}")
+            page.wait_for("NEW GAME")
+
+            # The network gone halfway through: the wasm never comes.
+            driver.execute_cdp_cmd("Network.setBlockedURLs", {"urls": ["*skarmada.wasm"]})
+            driver.execute_cdp_cmd("Network.setBypassServiceWorker", {"bypass": True})
+            page.open(url)
+            text, retry = wait_for_failure(driver, "a blocked skarmada.wasm")
+            driver.execute_cdp_cmd("Network.setBlockedURLs", {"urls": []})
+            check("did not answer" in text and "connection" in text and retry,
+                  f'without the network, the page says "{text}"')
+
+            broken = (
+                ("a missing skarmada.wasm", lambda: os.remove(wasm), ["skarmada.wasm", "404"]),
+                ("a corrupt skarmada.wasm", lambda: open(wasm, "wb").write(b"\0asm" + bytes(999)),
+                 ["skarmada.wasm", "damaged"]),
+                ("a missing skarmada.js", lambda: os.remove(os.path.join(copy, "skarmada.js")),
+                 ["skarmada.js", "could not be fetched"]),
+            )
+            for where, breaking, words in broken:
+                breaking()
+                driver.execute_cdp_cmd("Network.setCacheDisabled", {"cacheDisabled": True})
+                driver.execute_cdp_cmd("Network.setBypassServiceWorker", {"bypass": True})
+                page.open(url)
+                text, retry = wait_for_failure(driver, where)
+                check(all(word in text for word in words) and "build the page again" in text,
+                      f'{where}: the page says "{text}"')
+                check(retry, f"{where}: no way to try again")
+            driver.execute_cdp_cmd("Network.setBypassServiceWorker", {"bypass": False})
+            driver.execute_cdp_cmd("Network.setCacheDisabled", {"cacheDisabled": False})
+
+    # Opened from a file: serve the folder, with the README's command.
+    page.open("file://" + os.path.join(folder, "index.html"))
+    text, retry = wait_for_failure(driver, "a page opened as a file")
+    command = driver.execute_script("return document.querySelector('#failed code').textContent")
+    with open(os.path.join(os.path.dirname(__file__), "..", "..", "README.md")) as readme:
+        check(command in readme.read(), f'the page\'s command "{command}" is not the README\'s')
+    check("served" in text or "server" in text, f'opened as a file, the page says "{text}"')
+
+    # A browser without WebAssembly.
+    script = driver.execute_cdp_cmd("Page.addScriptToEvaluateOnNewDocument",
+                                    {"source": "delete window.WebAssembly;"})
+    with serve(folder) as url:
+        page.open(url)
+        text, retry = wait_for_failure(driver, "no WebAssembly")
+    driver.execute_cdp_cmd("Page.removeScriptToEvaluateOnNewDocument", script)
+    check("WebAssembly" in text and not retry, f'without WebAssembly the page says "{text}"')
+
+
+KEPT_FILES = "return caches.open('skarmada').then(c => c.keys()).then(k => k.length)" \
+    ".then(arguments[0], () => arguments[0](0))"
+
+
+def check_offline(driver, folder):
+    """After one visit the page loads and plays with the server stopped; with
+    the server back, a new version of the page replaces the old."""
+    page = Page(driver)
+    with tempfile.TemporaryDirectory() as copy:
+        shutil.copytree(folder, copy, dirs_exist_ok=True)
+        with serve(copy) as url:
+            page.open(url)
+            page.wait_for("NEW GAME", 20)
+            files = len(os.listdir(copy)) - 1  # all but the service worker itself
+            WebDriverWait(driver, 10).until(
+                lambda d: d.execute_async_script(KEPT_FILES) >= files,
+                "the service worker did not keep the page's files")
+            errors = driver.execute_cdp_cmd("Page.getInstallabilityErrors", {})
+            check(not errors["installabilityErrors"], f"the page cannot be installed: {errors}")
+        port = int(url.split(":")[2].split("/")[0])
+        page.open(url)
+        page.wait_for("NEW GAME", 20)
+        page.key("Enter")
+        page.wait_for("DAY:    1")
+        check(driver.execute_script("return navigator.serviceWorker.controller !== null"),
+              "offline, the page did not come from the service worker")
+        index = os.path.join(copy, "index.html")
+        with open(index) as f:
+            text = f.read()
+        with open(index, "w") as f:
+            f.write(text.replace("<title>Skarmada</title>", "<title>Skarmada, new</title>"))
+        with serve(copy, port) as url:
+            page.open(url)
+            page.wait_for("NEW GAME", 20)
+            check(driver.title == "Skarmada, new", "with the server back, the old page stays")
 
 
 def main():
@@ -126,6 +271,7 @@ def main():
                                           for text, cells in screen),
               "the page's text is not 25 rows of 80 cells", screen)
         check("EXIT" in screen[23][0], "EXIT is not on the title", screen)
+        check(wakes_a_second(driver, 1) >= 25, "the title's lights do not keep their beat")
         origins = driver.execute_script(
             "return performance.getEntriesByType('resource').map(e => new URL(e.name).origin)")
         check(set(origins) <= {url.rsplit("/", 1)[0]}, f"the page fetched from {set(origins)}")
@@ -160,6 +306,11 @@ def main():
         check(YELLOW not in colours(screen, nav), "NAV COM stays lit", screen)
         driver.save_screenshot(os.path.join(artefacts, "ship_map.png"))
 
+        # A still ship map wakes the tab at most once a second; the title's
+        # lights keep their beat of 30 ms.
+        time.sleep(1)
+        check(wakes_a_second(driver, 2) <= 1, "a still ship map keeps waking the tab")
+
         # A day ends from the Library.
         page.key("Down")
         page.wait_for(" LIBRARY:")
@@ -184,6 +335,12 @@ def main():
 
         check_scaling(driver)
 
+        # A mouse click on the screen gives it the focus.
+        driver.execute_script("document.activeElement.blur()")
+        ActionChains(driver).click(driver.find_element("id", "console")).perform()
+        check(driver.execute_script("return document.activeElement.id") == "console",
+              "a click on the screen does not give it the focus")
+
         # EXIT ends the game with a line that says so and a way back.
         page.open(url)
         page.wait_for("NEW GAME", 20)
@@ -201,6 +358,10 @@ def main():
         page.wait_for("NEW GAME", 20)
         check(driver.execute_script("return document.getElementById('ended').hidden"),
               "the end notice stays after starting again")
+
+    with browser() as driver:
+        check_loading_and_failing(driver, folder)
+        check_offline(driver, folder)
 
     print("PASS: the game in a browser tab")
 

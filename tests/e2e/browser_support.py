@@ -42,6 +42,7 @@ class QuietHandler(http.server.SimpleHTTPRequestHandler):
     extensions_map = {
         **http.server.SimpleHTTPRequestHandler.extensions_map,
         ".wasm": "application/wasm", ".js": "text/javascript", ".svg": "image/svg+xml",
+        ".webmanifest": "application/manifest+json",
     }
 
     def log_message(self, *args):
@@ -49,10 +50,11 @@ class QuietHandler(http.server.SimpleHTTPRequestHandler):
 
 
 @contextlib.contextmanager
-def serve(folder):
-    """Serves `folder` on 127.0.0.1 at a free port; yields the page's URL."""
+def serve(folder, port=0):
+    """Serves `folder` on 127.0.0.1 at `port` (0: a free one); yields the
+    page's URL. The server stops at the end of the block."""
     handler = functools.partial(QuietHandler, directory=folder)
-    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler)
+    server = http.server.ThreadingHTTPServer(("127.0.0.1", port), handler)
     thread = threading.Thread(target=server.serve_forever, daemon=True)
     thread.start()
     try:
@@ -76,7 +78,7 @@ def browser(width=1000, height=700):
                  "--disable-dev-shm-usage", f"--user-data-dir={profile}",
                  f"--window-size={width},{height}"):
         options.add_argument(flag)
-    options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
+    options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
     driver_path = shutil.which("chromedriver") or "/usr/bin/chromedriver"
     driver = webdriver.Chrome(service=Service(executable_path=driver_path), options=options)
     try:
@@ -132,3 +134,33 @@ def web_folder():
     folder = os.environ.get("SKARMADA_WEB_DIR") or os.path.join(
         os.path.dirname(__file__), "..", "..", "build-web", "web")
     return os.path.abspath(folder)
+
+
+def emulate_phone(driver, width, height, scale=3):
+    """Chromium's mobile emulation: a touch screen of width x height CSS
+    pixels, `scale` device pixels to one. Calling it again turns the phone."""
+    landscape = width > height
+    driver.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {
+        "width": width, "height": height, "deviceScaleFactor": scale, "mobile": True,
+        "screenOrientation": {"type": "landscapePrimary" if landscape else "portraitPrimary",
+                              "angle": 90 if landscape else 0}})
+    driver.execute_cdp_cmd("Emulation.setTouchEmulationEnabled",
+                           {"enabled": True, "maxTouchPoints": 5})
+
+
+def tap(driver, selector, hold=0.0):
+    """Touches the middle of the element `selector` with a finger, for
+    `hold` seconds."""
+    box = driver.execute_script(
+        "const box = document.querySelector(arguments[0]).getBoundingClientRect();"
+        "return [box.x + box.width / 2, box.y + box.height / 2];", selector)
+    point = [{"x": box[0], "y": box[1], "id": 1}]
+    driver.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchStart", "touchPoints": point})
+    if hold:
+        time.sleep(hold)
+    driver.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchEnd", "touchPoints": []})
+
+
+def tap_key(driver, label, hold=0.0):
+    """Taps the pad's key whose aria-label is `label`."""
+    tap(driver, f"#pad button[aria-label='{label}']", hold)
