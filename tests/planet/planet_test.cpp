@@ -12,6 +12,7 @@
 #include "game/planet/planet.h"
 #include "tests/planet/war.h"
 #include "tests/support/fresh_game.h"
+#include "tests/support/log_text.h"
 
 namespace {
 
@@ -35,10 +36,8 @@ TEST(Navigation, ADaysMoveAndItsFuelAndTheTripFigures) {
       {0, 22, 24, 1000, 23, 0},     {0, 6, 1, 150000, 5, 149000}, {0, 19, 6, 150000, 14, 149000},
       {0, 24, 4, 150000, 17, 149000}};
   for (const auto& [shields, at, to, fuel, arrives, left] : days) {
-    startFreshRun();
-    hoverOver(at);
-    theMothership().setDestination(to);
-    theMothership().setFuel(fuel);
+    startFreshRun(), hoverOver(at);
+    theMothership().setDestination(to), theMothership().setFuel(fuel);
     if (shields) theMothership().toggleShields();
     theMothership().moveOneDay();
     EXPECT_EQ(theMothership().currentSector(), arrives) << at << " to " << to;
@@ -56,10 +55,7 @@ TEST(Navigation, ADaysMoveAndItsFuelAndTheTripFigures) {
 TEST(IonCannon, TheNewsOfEachLandAndWhatTheShotLeaves) {
   const std::string farm = "A Farming Region in Sector J has been eradicated by your \"Slash and Burn\" Ion Cannon techniques.";
   const std::string again = "A SubSector that has already been destroyed by your hands in Sector J has been given a lethal dose of destruction from the Ion Cannon.";
-  const struct {
-    int land;  // -1: a City not yet seen
-    std::string news;
-  } shots[] = {
+  const std::pair<int, std::string> shots[] = {  // land (-1: a City not yet seen), news
       {kFarmLand, farm}, {kFarmLandStrewn, farm}, {kRubble, again}, {kRuins, again},
       {kCity, "A City in Sector J has been decimated by your glorious Ion Cannon."},
       {kMilitaryBase, "A Military Base in Sector J is now a distant memory, all thanks to the Ion Cannon."},
@@ -68,17 +64,14 @@ TEST(IonCannon, TheNewsOfEachLandAndWhatTheShotLeaves) {
       {kNuclearWasteland, "The Radioactive Elements in a Nuclear Wasteland in Sector J have been obliterated by the environmentally friendly Ion Cannon."},
       {-1, "A SubSector of an unknown land type in Sector J has been leveled by your Ion Cannon. Whatever was there before isn't there now."},
   };
-  for (const auto& s : shots) {
-    startFreshRun();
-    hoverOver(14);
+  for (const auto& [land, news] : shots) {
+    startFreshRun(), hoverOver(14);
     SubSector& target = thePlanet().subSector(14, 12);
-    target.setLandType(s.land < 0 ? kCity : s.land);
-    if (s.land >= 0) target.markMapped();
-    target.addFighters(30);
+    target.setLandType(land < 0 ? kCity : land), target.addFighters(30);
+    if (land >= 0) target.markMapped();
     scripted::addKeys("x");
     scripted::run([] { fireIonCannon(12); });
-    ASSERT_EQ(theMessageLog().count(), 1);
-    EXPECT_EQ(std::string(theMessageLog().at(0)->text.view()), s.news);
+    EXPECT_EQ(logLines(), news + "\n");
     EXPECT_EQ(theMessageLog().at(0)->priority, 4);
     EXPECT_EQ(target.population() + target.troops(), 0);
     EXPECT_EQ(target.fighters() + target.structures(), 30 + 27);

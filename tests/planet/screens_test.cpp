@@ -1,7 +1,6 @@
 // The war's screens, whole, against their goldens in tests/golden/planet:
 // the Navigation deck, Ground Campaign Status and the sector view, Navigate
 // Mothership and the Ion Cannon with its live feed.
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -10,7 +9,6 @@
 #include "game/planet/ion_cannon.h"
 #include "game/planet/navigation.h"
 #include "game/planet/planet.h"
-#include "game/shell/mothership.h"
 #include "tests/planet/war.h"
 #include "tests/support/fresh_game.h"
 #include "tests/support/golden.h"
@@ -25,26 +23,20 @@ void see(int n, std::initializer_list<int> ks, int land = -1) {
   }
 }
 
-void buildBunker(int n, int site) {
-  thePlanet().sector(n).bunker().setSubSector(site);
-  thePlanet().sector(n).bunker().markBuilt();
-}
-
 // Two built bunkers (L and A), and land of every code seen here and there:
 // in I the lower Mountains (10) of a pair whose upper Farm Land is unseen,
 // in L a Desert bombed below 0 people, in V Rubble and the strewn farm.
 void bunkersAndSomeLand() {
-  buildBunker(2, 0), buildBunker(8, 0);
+  thePlanet().sector(2).bunker().markBuilt(), thePlanet().sector(8).bunker().markBuilt();
   see(1, {0, 5, 9, 10, 15}), see(2, {0}), see(3, {0}, kRubble), see(3, {1}, kFarmLandStrewn);
-  see(14, {12});
-  thePlanet().subSector(2, 0).addPopulation(-20000);
+  see(14, {12}), thePlanet().subSector(2, 0).addPopulation(-20000);
 }
 
 // All of I seen but 3 and 6, with land of every code; a bunker built on 6.
 void everyLandInI() {
   see(1, {0, 1, 2, 4, 5, 7, 8, 9, 10, 11, 12});
   see(1, {13}, kNuclearWasteland), see(1, {14}, kFarmLandStrewn), see(1, {15}, kRubble);
-  buildBunker(1, 6);
+  thePlanet().sector(1).bunker().setSubSector(6), thePlanet().sector(1).bunker().markBuilt();
 }
 
 // The whole world seen, or all but the second row of each sector (whose
@@ -57,41 +49,40 @@ void mapWorld(bool secondRows) {
 }
 
 // The ship over T, all of which it has seen.
-void overT() {
-  see(9, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
-  hoverOver(9);
-}
+void overT() { see(9, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}), hoverOver(9); }
 
 // The ship over I, its Military Base, Mountains, Desert and City seen; its
 // bunker (never shown on the cannon's view) on the unseen Farm Land.
 void overI() {
-  hoverOver(1);
-  see(1, {0, 1, 3, 5});
-  buildBunker(1, 6);
+  hoverOver(1), see(1, {0, 1, 3, 5});
+  thePlanet().sector(1).bunker().setSubSector(6), thePlanet().sector(1).bunker().markBuilt();
+}
+
+// Each scene starts on the Navigation deck.
+void bombedBelow0() {
+  theMothership().setMaterials(3), raider(kHulkBomber, 1, kRaceHuman, kRaceHuman), resolveRaids();
 }
 
 const Scene kScenes[] = {
     {"the deck, each button lit; the radio does nothing",
      "@deck_ground_status_lit Down @deck_navigate_lit Down @deck_radio_lit Enter @deck_radio_lit "
      "Down @deck_ion_cannon_lit Down @deck_return_lit Down @deck_ground_status_lit Up "
-     "@deck_return_lit Enter",
-     runNavigationDeck},
+     "@deck_return_lit Enter", runNavigationDeck},
     {"a new game's ground: the cursor wraps round the map; an empty sector view; Enter maps",
      "Enter @status_new_game Left @status_cursor_wrapped_left_to_C Up @status_cursor_wrapped_up_to_K "
      "Down @status_cursor_wrapped_left_to_C Right @status_new_game Enter @view_nothing_seen Down "
      "Enter @view_4_seen_by_enter Esc @status_after_the_view_I4_seen Esc @deck_after_ground_status "
-     "Esc",
-     runNavigationDeck},
+     "Esc", runNavigationDeck},
     {"bunkers and some land; Tab maps a sector; its view; back on the map",
      "Enter @status_bunkers_and_some_land Right @status_cursor_on_L_bunker_and_people_below_0 Right "
      "Tab @status_V_mapped_by_tab Enter @view_of_V Left @view_of_V_cursor_wrapped_to_3 Up "
-     "@view_of_V_cursor_wrapped_to_15 Esc @status_after_the_view_of_V Esc Esc",
-     runNavigationDeck, bunkersAndSomeLand},
+     "@view_of_V_cursor_wrapped_to_15 Esc @status_after_the_view_of_V Esc Esc", runNavigationDeck,
+     bunkersAndSomeLand},
     {"every land in a view, a bunker on an unseen site, seen on the next visit",
-     "Enter Enter @view_every_land_bunker_on_unseen_site Esc Enter @view_bunker_site_seen Esc Esc Esc",
-     runNavigationDeck, everyLandInI},
-    {"the world seen but the second row of each sector", "Enter @status_world_but_second_rows Esc Esc",
-     runNavigationDeck, [] { mapWorld(false); }},
+     "Enter Enter @view_every_land_bunker_on_unseen_site Esc Enter @view_bunker_site_seen Esc Esc "
+     "Esc", runNavigationDeck, everyLandInI},
+    {"the world seen but the second row of each sector", "Enter @status_world_but_second_rows Esc "
+     "Esc", runNavigationDeck, [] { mapWorld(false); }},
     {"the whole world seen", "Enter @status_whole_world Esc Esc", runNavigationDeck,
      [] { mapWorld(true); }},
     {"navigate in orbit: the orbit box entered and left by each of its four sides; a course",
@@ -99,8 +90,7 @@ const Scene kScenes[] = {
      "Down @navigate_cursor_on_orbit Down @navigate_cursor_on_V Right Up @navigate_cursor_on_orbit "
      "Left @navigate_cursor_on_orbit Down @navigate_cursor_on_O Up Up @navigate_cursor_on_G Down "
      "@navigate_cursor_on_orbit Up @navigate_cursor_on_G Enter @navigate_course_set_for_G Left "
-     "@navigate_course_for_G_cursor_on_D Esc @deck_after_navigate Esc",
-     runNavigationDeck},
+     "@navigate_course_for_G_cursor_on_D Esc @deck_after_navigate Esc", runNavigationDeck},
     {"navigate hovering over T, then a course for orbit",
      "Down Enter @navigate_over_T Right Right Down @navigate_over_T_cursor_on_T Down Down Down "
      "@navigate_over_T_cursor_on_orbit Enter @navigate_over_T_course_for_orbit Esc Esc",
@@ -109,11 +99,7 @@ const Scene kScenes[] = {
      "Down Enter @navigate_moving_T_to_K Right Right Down Enter @navigate_over_T_cursor_on_T Esc Esc",
      runNavigationDeck, [] { overT(), theMothership().setDestination(24); }},
     {"a bombing night took the ship's last 3 materials and 4 more: the bar shows none",
-     "@deck_materials_below_0 Esc", runNavigationDeck, [] {
-       theMothership().setMaterials(3);
-       raider(kHulkBomber, 1, kRaceHuman, kRaceHuman);
-       resolveRaids();
-     }},
+     "@deck_materials_below_0 Esc", runNavigationDeck, bombedBelow0},
     {"the Ion Cannon in orbit", "Up Up Enter @cannon_in_orbit x @deck_after_cannon_in_orbit Esc",
      runNavigationDeck},
     {"the Ion Cannon over I: the question, No, a shot on the City, a blind shot, Tab",
@@ -127,8 +113,8 @@ const Scene kScenes[] = {
      [] { overI(), theMothership().setFuel(50000); }},
     {"with 49999 left, the same", "Up Up Enter Enter y x @cannon_fuel_ending x", runNavigationDeck,
      [] { overI(), theMothership().setFuel(49999); }},
-    {"with 50001 left, a shot leaves 1", "Up Up Enter Enter y x @cannon_after_a_shot_leaving_1 Esc Esc",
-     runNavigationDeck, [] { overI(), theMothership().setFuel(50001); }},
+    {"with 50001 left, a shot leaves 1", "Up Up Enter Enter y x @cannon_after_a_shot_leaving_1 Esc "
+     "Esc", runNavigationDeck, [] { overI(), theMothership().setFuel(50001); }},
 };
 
 TEST(Screens, Planet) { playScenes("planet", kScenes); }
@@ -152,14 +138,12 @@ TEST(Screens, IonCannonFeed) {
       {2, -1, {{0, "feed_blind_first_noise"}, {99, "feed_blind_charged"},
                {100, "feed_blind_fire_in_progress"}, {119, "feed_blind_last_noise"}}}};
   for (const auto& feed : feeds) {
-    startFreshRun();
-    hoverOver(1);
+    startFreshRun(), hoverOver(1);
     if (feed.land >= 0) see(1, {feed.k}, feed.land);
     scripted::watchSleeps([&, sleeps = 0](int) mutable {
       for (const auto& [after, golden] : feed.frames) {
-        if (after == sleeps) {
-          EXPECT_TRUE(screenMatches(std::string("planet/") + golden));
-        }
+        EXPECT_TRUE(after != sleeps ? testing::AssertionSuccess()
+                                    : screenMatches(std::string("planet/") + golden));
       }
       ++sleeps;
     });

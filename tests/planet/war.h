@@ -5,19 +5,14 @@
 #include "game/shell/mothership.h"
 
 // The ship brought down from orbit to hover over sector n (a day's trip).
-inline void hoverOver(int n) {
-  theMothership().setDestination(n);
-  theMothership().moveOneDay();
-}
+inline void hoverOver(int n) { theMothership().setDestination(n), theMothership().moveOneDay(); }
 
 // A craft of the ship or of a bunker on its raid, with a pilot and a gunner.
 inline Aircraft& raider(int type, int target, int pilot, int gunner, int location = 0) {
   AircraftList& list = aircraftAt(location);
   list.add(type, 6000000, location);
   Aircraft& craft = list.at(list.count() - 1);
-  craft.getCrew().add(gunner, 0);
-  craft.getCrew().addFront(craft.getCrew().at(0));
-  craft.getCrew().at(0).setUp(pilot, 0);
+  craft.getCrew().add(pilot, 0), craft.getCrew().add(gunner, 0);
   craft.setMission(type == kStealthFighter ? kMissionAttacking : kMissionBombing);
   craft.setDestination(target);
   return craft;
