@@ -9,11 +9,9 @@ inline void hoverOver(int n) { theMothership().setDestination(n), theMothership(
 
 // A craft of the ship or of a bunker on its raid, with a pilot and a gunner.
 inline Aircraft& raider(int type, int target, int pilot, int gunner, int location = 0) {
-  AircraftList& list = aircraftAt(location);
-  list.add(type, 6000000, location);
-  Aircraft& craft = list.at(list.count() - 1);
-  craft.getCrew().add(pilot, 0), craft.getCrew().add(gunner, 0);
+  aircraftAt(location).add(type, 6000000, location);
+  Aircraft& craft = aircraftAt(location).at(aircraftAt(location).count() - 1);
+  craft.getCrew().add(pilot, 0), craft.getCrew().add(gunner, 0), craft.setDestination(target);
   craft.setMission(type == kStealthFighter ? kMissionAttacking : kMissionBombing);
-  craft.setDestination(target);
   return craft;
 }
