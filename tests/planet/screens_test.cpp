@@ -127,14 +127,14 @@ TEST(Screens, IonCannonFeed) {
     int k, land;  // land -1: unseen
     std::vector<std::pair<int, const char*>> frames;  // after which sleep, the golden
   } feeds[] = {
-      {5, kCity, {{0, "feed_city_charging"}, {11, "feed_city_fire"}, {25, "feed_city_beam_down"},
-                  {26, "feed_city_blast_A_stage_1"}, {33, "feed_city_blast_B_stage_2"},
-                  {40, "feed_city_blast_C_stage_3"}, {47, "feed_city_blast_B_stage_4"},
-                  {60, "feed_city_beam_out_blast_B"}, {67, "feed_city_beam_gone"}}},
+      {5, kCity, {{0, "feed_city_charging"}, {5, "feed_city_charged_by_5"}, {11, "feed_city_fire"},
+                  {25, "feed_city_beam_down"}, {26, "feed_city_blast_A_stage_1"},
+                  {33, "feed_city_blast_B_stage_2"}, {40, "feed_city_blast_C_stage_3"},
+                  {47, "feed_city_blast_B_stage_4"}, {60, "feed_city_beam_out_blast_B"},
+                  {67, "feed_city_beam_gone"}}}, {2, kNuclearWasteland, {{0, "feed_wasteland"}}},
       {2, kFarmLand, {{0, "feed_farm"}}}, {2, kFarmLandStrewn, {{0, "feed_strewn_farm"}}},
       {2, kMilitaryBase, {{0, "feed_military_base"}}}, {2, kMountains, {{0, "feed_mountains"}}},
       {2, kDesert, {{0, "feed_desert"}}}, {2, kRubble, {{0, "feed_rubble"}}},
-      {2, kNuclearWasteland, {{0, "feed_wasteland"}}},
       {2, -1, {{0, "feed_blind_first_noise"}, {99, "feed_blind_charged"},
                {100, "feed_blind_fire_in_progress"}, {119, "feed_blind_last_noise"}}}};
   for (const auto& feed : feeds) {
