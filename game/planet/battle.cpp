@@ -1,6 +1,5 @@
 #include "game/planet/battle.h"
 
-#include <algorithm>
 #include <string>
 
 #include "game/console/random.h"
@@ -70,14 +69,12 @@ bool canRaid(const Aircraft& craft) {
   return isSector(craft.getDestination()) && craft.getCrew().getCount() >= 2;
 }
 
+// The store may run below 0: a night of bombing takes its 7 all the same.
 void takeBombingMaterials(std::int32_t location) {
   if (location == kMothershipLocation) {
-    Mothership& ship = theMothership();
-    ship.setMaterials(ship.materials() > kBombingMaterials ? ship.materials() - kBombingMaterials
-                                                           : 0);
+    theMothership().addMaterials(-kBombingMaterials);
   } else {
-    Bunker& bunker = thePlanet().sector(location).bunker();
-    bunker.addMaterials(-std::min(bunker.materials(), kBombingMaterials));
+    thePlanet().sector(location).bunker().addMaterials(-kBombingMaterials);
   }
 }
 

@@ -122,16 +122,11 @@ class Planet {
 
 Planet& thePlanet();
 
-// A sector of the world table, as set-up is given it, with what set-up
-// leaves in it (the sums over its 16 sub-sectors).
+// A sector of the world table, as set-up is given it.
 struct WorldRow {
   char letter;
   double base;
   const char* landCodes;  // four groups of four codes, one group a row
-  double population;
-  double troops;
-  double fighters;
-  double structures;
 };
 
 extern const WorldRow kWorldTable[kSectorCount];

@@ -182,7 +182,7 @@ TEST_F(DayOperationsTest, TheNightRunsMealsFlightsBuildingAndRaidsInThatOrder) {
   EXPECT_NEAR(bunker(9).progress(), 0.8, 1e-9) << "landed with no materials: half a day";
   EXPECT_EQ(logLines().find("canibalism"), std::string::npos) << "the meal came before the landing";
   EXPECT_NEAR(bunker(10).progress(), 1.6, 1e-9) << "a full day: the bomber took its 7 later";
-  EXPECT_EQ(bunker(10).materials(), 0);
+  EXPECT_EQ(bunker(10).materials(), -7) << "and took them from an empty store";
 }
 
 }  // namespace
