@@ -12,6 +12,10 @@ sock="skarmada-e2e-$$"
 scratch=$(mktemp -d)
 t() { tmux -L "$sock" -f /dev/null "$@"; }
 trap 't kill-server >/dev/null 2>&1; rm -rf "$scratch"' EXIT
+# A session that lives as long as the test keeps tmux's server up between
+# games: a server that has just lost its last session is on its way out, and
+# a new session asked of it then fails ("server exited unexpectedly").
+t new-session -d -s keeper "sleep 100000"
 fail() {
   echo "FAIL: $*"
   echo "--- screen ---"
@@ -26,6 +30,14 @@ wait_for() {  # text [seconds]
     sleep 0.05
   done
   fail "\"$1\" never came on the screen"
+}
+wait_for_either() {  # text text
+  local until=$((SECONDS + 5))
+  while ((SECONDS < until)); do
+    screen | grep -qF -e "$1" -e "$2" && return 0
+    sleep 0.05
+  done
+  fail "neither \"$1\" nor \"$2\" came on the screen"
 }
 key() { t send-keys -t game "$@"; sleep 0.15; }
 keys() { for k in "$@"; do key "$k"; done; }
@@ -260,10 +272,10 @@ key Down
 wait_for " RESEARCH:" 2
 
 # Bytes that are no key (Latin-1, broken UTF-8, 8-bit Alt), one at a time
-# 20 ms apart, are ignored: the game goes on answering keys.
+# 5 ms apart, are ignored: the game goes on answering keys.
 bytes=(e9 ff 80 e1)
 for ((i = 0; i < 1100; ++i)); do
-  printf 'send-keys -t game -H %s\nrun-shell -d 0.02\n' "${bytes[i % 4]}"
+  printf 'send-keys -t game -H %s\nrun-shell -d 0.005\n' "${bytes[i % 4]}"
 done >"$scratch/bytes.tmux"
 t source-file "$scratch/bytes.tmux"
 screen | grep -q EXITED- && fail "bytes that are no key ended the game"
@@ -347,15 +359,28 @@ key Enter
 wait_for "DAY:    1"
 keys Right Down
 wait_for " LIBRARY:"
+# Each key waits for what it shows rather than for a fixed time (but Down,
+# which only moves the menu's colours).
+send() { t send-keys -t game "$1"; }
+food() { screen | grep -o 'FOOD: *[0-9,]*'; }
 for day in $(seq 2 31); do
-  key Enter
+  send Enter
   wait_for "End Turn Factor 6"
-  keys d Down Enter
+  fed=$(food)
+  send d
+  until=$((SECONDS + 5))
+  until [ "$(food)" != "$fed" ]; do
+    ((SECONDS < until)) || fail "the Library's food key did nothing"
+    sleep 0.02
+  done
+  key Down
+  send Enter
   wait_for "End Day?"
-  key y
-  sleep 0.2
-  screen | grep -qF "Good Morning" && key Escape
-  wait_for "DAY: $(printf '%4d' "$day")"
+  send y
+  morning="DAY: $(printf '%4d' "$day")"
+  wait_for_either "$morning" "Good Morning"
+  screen | grep -qF "Good Morning" && send Escape
+  wait_for "$morning"
 done
 key Down
 wait_for " SUPER FREIGHTER:"
