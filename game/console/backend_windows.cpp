@@ -14,8 +14,10 @@
 //
 // Input: console input events as they come, key-downs and releases alike.
 // keyWaiting looks at the queue without taking from it, and waits on the
-// input handle a little: 10 ms every tenth pass while the screen moves, 20 ms
-// a pass once it has stood still for half a second; a key ends any wait. A
+// input handle: 10 ms every tenth pass while the screen moves, and once it
+// has stood still for half a second, until input comes, with no time limit
+// (nothing on a still screen moves until the player acts); a key ends any
+// wait. A
 // flush right behind such a look throws away what the look saw and no more,
 // so a key that comes in just then waits for the next pass instead of being
 // lost (under a busy wine, many keys were lost that way).
@@ -43,7 +45,6 @@ using SteadyClock = std::chrono::steady_clock;
 
 constexpr int kPassesPerWait = 10;
 constexpr DWORD kFastWaitMs = 10;
-constexpr DWORD kSlowWaitMs = 20;
 constexpr auto kStillAfter = std::chrono::milliseconds(500);
 constexpr DWORD kInputMode = ENABLE_PROCESSED_INPUT;  // keys only, Ctrl+C still handled
 constexpr DWORD kCursorSize = 100;
@@ -321,7 +322,7 @@ void show(ScreenModel& screen) {
 bool keyWaiting() {
   DWORD waitMs = 0;
   if (SteadyClock::now() - lastChange > kStillAfter) {
-    waitMs = kSlowWaitMs;
+    waitMs = INFINITE;
   } else if (++passesSinceWait >= kPassesPerWait) {
     passesSinceWait = 0;
     waitMs = kFastWaitMs;

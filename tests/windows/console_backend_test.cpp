@@ -13,7 +13,9 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <chrono>
 #include <string>
+#include <thread>
 
 #include "game/console/backend.h"
 
@@ -245,6 +247,23 @@ TEST_F(WindowsConsole, ReadKeyGivesEveryEventAsItCame) {
   EXPECT_FALSE(other.isKey);
   EXPECT_FALSE(other.keyDown);
   EXPECT_EQ(queued(), 0u) << describeQueue();
+}
+
+// A screen that has stood still for half a second is looked at with no time
+// limit: the look ends when the key comes, not on a timer.
+TEST_F(WindowsConsole, AStillScreenWaitsForTheKeyItself) {
+  backend::show(screen);
+  Sleep(600);
+  std::thread typist([] {
+    Sleep(300);
+    queue(keyRecord(true, 'A', L'a'));
+  });
+  const auto start = std::chrono::steady_clock::now();
+  const bool waiting = backend::keyWaiting();
+  const auto waited = std::chrono::steady_clock::now() - start;
+  typist.join();
+  EXPECT_TRUE(waiting);
+  EXPECT_GE(waited, std::chrono::milliseconds(250));
 }
 
 TEST_F(WindowsConsole, FlushBehindALookTakesWhatTheLookSawAndNoMore) {
