@@ -30,7 +30,7 @@ wait_for() {
 start() {  # program
   t kill-session -t game 2>/dev/null || true
   : >"$out"
-  t new-session -d -s game -x 80 -y 25 "stty -icrnl; env TERM=xterm-256color wine '$1'"
+  t new-session -d -s game -x 80 -y 25 "env TERM=xterm-256color wine '$1'"
   t pipe-pane -t game "cat >>'$out'"
 }
 now_ns() { date +%s%N; }
