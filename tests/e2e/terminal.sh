@@ -59,7 +59,7 @@ game_pid() { pgrep -P "$(pane '#{pane_pid}')" | head -n 1; }
 sleeps_when_still() {  # what is on the screen
   local game before after
   game=$(game_pid)
-  sleep 0.7
+  sleep 1
   before=$(awk '/^voluntary_ctxt_switches/ { print $2 }' "/proc/$game/status")
   sleep 2
   after=$(awk '/^voluntary_ctxt_switches/ { print $2 }' "/proc/$game/status")
