@@ -2,7 +2,9 @@
 # What the Windows build costs under wine, on wine's console in a terminal
 # (tmux at 80x25):
 #   ship map idle   CPU over 10 s of the game, and of wine's console and server
-#                   that carry its calls; bytes written to the terminal
+#                   that carry its calls; the game's wakes a second (voluntary
+#                   context switches of all its threads); bytes written to
+#                   the terminal
 #   key to screen   a room move on the ship map: from the key to the first
 #                   byte on the terminal, median and worst of 20; beside it
 #                   the same for console_echo, which does nothing but draw a
@@ -28,7 +30,7 @@ wait_for() {
 start() {  # program
   t kill-session -t game 2>/dev/null || true
   : >"$out"
-  t new-session -d -s game -x 80 -y 25 "stty -icrnl; env TERM=xterm-256color wine '$1'"
+  t new-session -d -s game -x 80 -y 25 "env TERM=xterm-256color wine '$1'"
   t pipe-pane -t game "cat >>'$out'"
 }
 now_ns() { date +%s%N; }
@@ -36,9 +38,12 @@ bytes() { stat -c %s "$out"; }
 ms() { awk -v us="$1" 'BEGIN { printf "%.0f ms", us / 1000 }'; }
 # CPU ticks of a process (user + system).
 ticks() { awk '{ print $14 + $15 }' "/proc/$1/stat" 2>/dev/null || echo 0; }
-# A process of this wine prefix.
-pid_of() {  # pattern
-  for pid in $(pgrep -f "$1"); do
+# Times the threads of a process have waited and been woken.
+wakes() { cat /proc/"$1"/task/*/status 2>/dev/null | awk '/^voluntary_ctxt_switches/ { n += $2 } END { print n + 0 }'; }
+# A process of this wine prefix, by its name (its command line would also
+# match tmux's server, which started it).
+pid_of() {  # name
+  for pid in $(pgrep -x "$1"); do
     if tr '\0' '\n' <"/proc/$pid/environ" 2>/dev/null |
       grep -qx "WINEPREFIX=${WINEPREFIX:-$HOME/.wine}"; then
       echo "$pid"
@@ -72,16 +77,17 @@ t send-keys -t game Enter
 wait_for "DAY:    1"
 sleep 2
 
-game=$(pid_of 'skarmada\.exe')
-console=$(pid_of 'conhost\.exe')
-server=$(pid_of 'wineserver')
+game=$(pid_of skarmada.exe)
+console=$(pid_of conhost.exe)
+server=$(pid_of 'wineserver(64)?')
 hz=$(getconf CLK_TCK)
-g0=$(ticks "$game") c0=$(ticks "$console") s0=$(ticks "$server") b0=$(bytes)
+g0=$(ticks "$game") c0=$(ticks "$console") s0=$(ticks "$server") b0=$(bytes) w0=$(wakes "$game")
 sleep "$idle_seconds"
-g1=$(ticks "$game") c1=$(ticks "$console") s1=$(ticks "$server") b1=$(bytes)
+g1=$(ticks "$game") c1=$(ticks "$console") s1=$(ticks "$server") b1=$(bytes) w1=$(wakes "$game")
 percent() { awk -v d="$1" -v hz="$hz" -v s="$idle_seconds" 'BEGIN { printf "%.1f%%", 100 * d / hz / s }'; }
 echo "ship map idle ${idle_seconds} s: game $(percent $((g1 - g0))) of one core," \
   "wine's console $(percent $((c1 - c0))), wine's server $(percent $((s1 - s0)))," \
+  "the game woken $(awk -v w=$((w1 - w0)) -v s="$idle_seconds" 'BEGIN { printf "%.1f", w / s }') times a second," \
   "$((b1 - b0)) bytes written"
 
 # Right and Left in turn between two rooms, each with a blank behind it that

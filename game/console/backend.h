@@ -17,7 +17,9 @@ void show(ScreenModel& screen);
 
 // True if the input queue holds a key-down of a key that counts (a
 // character or an extended key); takes nothing from the queue. May wait a
-// few milliseconds for one to arrive.
+// few milliseconds for one to arrive, and once the screen has stood still
+// for a while, until input comes (nothing on a still screen moves until the
+// player acts).
 bool keyWaiting();
 
 // Blocks until an input event is there and takes it.

@@ -10,13 +10,18 @@
 //
 // Input: keys become the console's KeyEvents (virtual key and character).
 // Escape arrives after 25 ms; Escape with a key at once is Alt with that key,
-// and counts as the key. Bytes that are no key are ignored. keyWaiting waits a little for a key, 1
-// ms while the screen is moving and 20 ms once it has stood still for half a second, so that the
-// polling loops neither spin nor lag.
+// and counts as the key. Bytes that are no key are ignored. While the screen
+// moves, keyWaiting waits 10 ms every tenth pass, so that the polling loops
+// neither spin nor lag; once it has stood still for half a second, it waits
+// for the key itself (or a change of size, or a signal), so that a still
+// screen costs nothing at all until the player acts.
 //
 // A change of the terminal's size, and a return from Ctrl+Z, repaint the whole
 // screen as soon as they happen, whatever the game is doing: waiting for a
-// key, polling, or sleeping in an animation.
+// key, polling, or sleeping in an animation. A terminal smaller than 80x25
+// shows only a notice of the size it needs, and the game waits behind it:
+// keys typed meanwhile are thrown away (Ctrl+C still ends the game), and at
+// 80x25 again the game goes on where it stood.
 //
 // The terminal is put back as it was on every way out: the normal end, Ctrl+C,
 // every signal that ends the process, and Ctrl+Z (until `fg`). Flow control
@@ -32,6 +37,7 @@
 #define NCURSES_WIDECHAR 1
 #endif
 #include <curses.h>
+#include <fcntl.h>
 #include <langinfo.h>
 #include <poll.h>
 #include <signal.h>
@@ -40,6 +46,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cassert>
 #include <cerrno>
 #include <chrono>
@@ -58,14 +65,15 @@ using SteadyClock = std::chrono::steady_clock;
 // While the screen moves, the polling loops are paced at about 1 ms a pass:
 // one wait of 10 ms for every ten passes, so that an animation counted in
 // passes runs at a steady speed and the process wakes 100 times a second,
-// not 1000. Once the screen has stood still for half a second, every pass
-// waits 20 ms. A key ends any wait at once.
+// not 1000. Once the screen has stood still for half a second nothing in it
+// moves until the player acts, so a pass waits for a key with no time
+// limit. A key ends any wait at once.
 constexpr int kPassesPerWait = 10;
 constexpr int kFastWaitMs = 10;
-constexpr int kSlowWaitMs = 20;
+constexpr int kUntilInput = -1;
 constexpr auto kStillAfter = std::chrono::milliseconds(500);
 constexpr auto kFreshInput = std::chrono::milliseconds(2);
-constexpr char kSizeNotice[] = " Skarmada needs a terminal of 80x25 ";
+constexpr std::uint8_t kNoticeColour = 0x4F;  // white on red
 
 bool isOpen = false;
 bool utf8 = false;
@@ -81,8 +89,13 @@ int passesSinceWait = 0;
 
 // Set by the signal handlers, acted on by the game's own thread at the next
 // call into the backend, or at once if it is waiting or sleeping (the signal
-// interrupts the wait).
+// interrupts the wait). The handlers also write a byte into a pipe that every
+// wait for input watches, so that a signal that comes just before the wait
+// begins still ends it.
 volatile sig_atomic_t sizeChanged = 0;
+int wakeRead = -1;
+int wakeWrite = -1;
+bool noticeUp = false;  // the terminal shows the size notice, not the game
 
 // What the signal handlers write to put the terminal back, and to take it
 // again after Ctrl+Z; prepared at open so that the handlers themselves only
@@ -132,7 +145,17 @@ void onSignal(int signalNumber) {
   raise(signalNumber);
 }
 
-void onResize(int) { sizeChanged = 1; }
+void wakeTheGame() {
+  const int savedErrno = errno;
+  sizeChanged = 1;
+  if (wakeWrite >= 0) {
+    ssize_t written = ::write(wakeWrite, "", 1);
+    (void)written;  // a full pipe has a byte to wake the game already
+  }
+  errno = savedErrno;
+}
+
+void onResize(int) { wakeTheGame(); }
 
 // Ctrl+Z: give the terminal back, stop, and on `fg` take it again; the
 // screen is repainted as after a change of size.
@@ -153,7 +176,7 @@ void onStop(int) {
   if (isOpen) {
     if (haveGameModes) tcsetattr(STDIN_FILENO, TCSADRAIN, &gameModes);
     resumeSequence.write();
-    sizeChanged = 1;
+    wakeTheGame();
   }
   errno = savedErrno;
 }
@@ -242,13 +265,41 @@ void putCell(int row, int column, Cell cell) {
 
 bool tooSmall() { return LINES < kScreenHeight || COLS < kScreenWidth; }
 
-void drawSizeNotice() {
+// The notice of a terminal too small, alone on a cleared terminal: what size
+// the game needs and what size it has, worded to the width (a blank on each
+// side of every line) and set in the middle.
+void showSizeNotice() {
+  const std::string text = "Skarmada needs a terminal of " + std::to_string(kScreenWidth) + "x" +
+                           std::to_string(kScreenHeight) + "; this one is " +
+                           std::to_string(COLS) + "x" + std::to_string(LINES) + ".";
+  const std::size_t width = COLS > 2 ? static_cast<std::size_t>(COLS - 2) : 1;
+  std::deque<std::string> noticeRows;
+  std::size_t at = 0;
+  while (at < text.size()) {
+    std::size_t end = std::min(text.size(), at + width);
+    if (end < text.size()) {
+      const std::size_t blank = text.rfind(' ', end);
+      if (blank != std::string::npos && blank > at) end = blank;
+    }
+    noticeRows.push_back(text.substr(at, end - at));
+    at = end;
+    while (at < text.size() && text[at] == ' ') ++at;
+  }
+  erase();
   attr_t attributes;
   short pair;
-  attributesFor(0x4F, attributes, pair);  // white on red
+  attributesFor(kNoticeColour, attributes, pair);
   attr_set(attributes, pair, nullptr);
-  mvaddnstr(LINES - 1, 0, kSizeNotice, COLS);
+  const int first = std::max(0, (LINES - static_cast<int>(noticeRows.size())) / 2);
+  for (int i = 0; i < static_cast<int>(noticeRows.size()) && first + i < LINES; ++i) {
+    const std::string line = " " + noticeRows[static_cast<std::size_t>(i)] + " ";
+    const int column = std::max(0, (COLS - static_cast<int>(line.size())) / 2);
+    mvaddnstr(first + i, column, line.c_str(), COLS - column);
+  }
   attr_set(A_NORMAL, 0, nullptr);
+  wnoutrefresh(stdscr);
+  doupdate();
+  noticeUp = true;
 }
 
 void present(ScreenModel& screen) {
@@ -262,33 +313,43 @@ void present(ScreenModel& screen) {
     }
     screen.rowChanged[row] = false;
   }
-  if (tooSmall()) drawSizeNotice();
   screen.changed = false;
   fullRepaint = false;
   wnoutrefresh(stdscr);
   doupdate();
 }
 
-// Everything is drawn again, from the model.
+// Everything is drawn again, from the model; on a terminal too small, the
+// notice instead, and the model waits to be drawn in full once it fits.
 void repaintAll() {
-  erase();
   fullRepaint = true;
+  if (tooSmall()) {
+    showSizeNotice();
+    return;
+  }
+  noticeUp = false;
+  erase();
   present(Console::mutableScreen());
 }
 
 // After a change of size, or Ctrl+Z and `fg`: curses learns the terminal's
 // size, and the whole screen is cleared and painted again. Called on every
 // way into the backend and whenever a signal breaks a wait or a sleep, so
-// that no animation, flush or wait can keep the broken screen up.
+// that no animation, flush or wait can keep the broken screen up. Keys that
+// came before the terminal shrank are not acted on behind the notice.
 void catchUp() {
   if (sizeChanged == 0 || !isOpen) return;
   sizeChanged = 0;
+  char bytes[64];
+  while (::read(wakeRead, bytes, sizeof bytes) > 0) {
+  }
   struct winsize size {};
   if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_row > 0 && size.ws_col > 0) {
     resize_term(size.ws_row, size.ws_col);
   }
   clearok(curscr, TRUE);
   repaintAll();
+  if (tooSmall()) pending.clear();
 }
 
 // A shifted punctuation key gives the virtual key of the key it is on, as a
@@ -399,6 +460,8 @@ void drain() {
     if (translate(status, input, event)) pending.push_back(event);
   }
   if (escapeHeld) pending.push_back(KeyEvent::escape());
+  // Behind the notice of a terminal too small no key reaches the game.
+  if (tooSmall()) pending.clear();
 }
 
 // The terminal is gone: nothing more can be read or shown.
@@ -407,23 +470,20 @@ void drain() {
   std::exit(1);
 }
 
-// Waits up to `waitMs` (-1: for ever) for the terminal to have input, and
-// takes what it has. True if a key is in the queue. The wait is a plain
-// poll, so a pass of a polling loop that finds nothing costs one system call.
-// Only a hang-up, an error or the end of the input ends the game; bytes that
-// decode to no key are simply gone.
+// Waits up to `waitMs` (kUntilInput: for ever) for the terminal to have
+// input or for a signal, and takes what the terminal has. True if a key is
+// in the queue. The wait is a plain poll, so a pass of a polling loop that
+// finds nothing costs one system call. Only a hang-up, an error or the end
+// of the input ends the game; bytes that decode to no key are simply gone.
 bool fetch(int waitMs) {
   catchUp();
-  struct pollfd input {
-    STDIN_FILENO, POLLIN, 0
-  };
-  int ready = poll(&input, 1, waitMs);
-  if (ready < 0) {
-    catchUp();  // a signal, perhaps a change of size
-    return !pending.empty();
-  }
+  struct pollfd watched[2] = {{STDIN_FILENO, POLLIN, 0}, {wakeRead, POLLIN, 0}};
+  const int ready = poll(watched, wakeRead >= 0 ? 2 : 1, waitMs);
+  catchUp();  // a signal, perhaps a change of size
+  if (ready < 0) return !pending.empty();
   lastEmptied = SteadyClock::now();
-  if (ready == 0) return false;
+  const struct pollfd& input = watched[0];
+  if (input.revents == 0) return !pending.empty();
   int waiting = 1;
   if (ioctl(STDIN_FILENO, FIONREAD, &waiting) != 0) waiting = 1;
   if (waiting > 0) drain();
@@ -441,6 +501,15 @@ void open() {
   std::setlocale(LC_ALL, "");
   utf8 = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
   if (tcgetattr(STDIN_FILENO, &savedModes) == 0) haveSavedModes = true;
+  int wake[2];
+  if (pipe(wake) == 0) {
+    for (int end : wake) {
+      fcntl(end, F_SETFL, O_NONBLOCK);
+      fcntl(end, F_SETFD, FD_CLOEXEC);
+    }
+    wakeRead = wake[0];
+    wakeWrite = wake[1];
+  }
   installSignalHandlers();
   if (newterm(nullptr, stdout, stdin) == nullptr) refuse("this program needs a terminal");
   restoreSequence = {};
@@ -490,6 +559,11 @@ void close() {
 
 void show(ScreenModel& screen) {
   catchUp();
+  if (tooSmall()) {
+    if (!noticeUp) showSizeNotice();
+    fullRepaint = true;
+    return;
+  }
   if (!screen.changed && !fullRepaint) return;
   present(screen);
   lastChange = SteadyClock::now();
@@ -497,15 +571,21 @@ void show(ScreenModel& screen) {
 
 bool keyWaiting() {
   catchUp();
+  // Behind the notice the game stands still, its animations too, until the
+  // terminal is large enough again.
+  if (tooSmall()) {
+    while (tooSmall()) fetch(kUntilInput);
+    return false;
+  }
   if (!pending.empty()) return true;
-  if (SteadyClock::now() - lastChange > kStillAfter) return fetch(kSlowWaitMs);
+  if (SteadyClock::now() - lastChange > kStillAfter) return fetch(kUntilInput);
   if (++passesSinceWait < kPassesPerWait) return false;
   passesSinceWait = 0;
   return fetch(kFastWaitMs);
 }
 
 KeyEvent readKey() {
-  while (pending.empty()) fetch(-1);
+  while (pending.empty()) fetch(kUntilInput);
   KeyEvent event = pending.front();
   pending.pop_front();
   return event;

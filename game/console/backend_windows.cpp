@@ -14,8 +14,10 @@
 //
 // Input: console input events as they come, key-downs and releases alike.
 // keyWaiting looks at the queue without taking from it, and waits on the
-// input handle a little: 10 ms every tenth pass while the screen moves, 20 ms
-// a pass once it has stood still for half a second; a key ends any wait. A
+// input handle: 10 ms every tenth pass while the screen moves, and once it
+// has stood still for half a second, until input comes, with no time limit
+// (nothing on a still screen moves until the player acts); a key ends any
+// wait. A
 // flush right behind such a look throws away what the look saw and no more,
 // so a key that comes in just then waits for the next pass instead of being
 // lost (under a busy wine, many keys were lost that way).
@@ -43,7 +45,6 @@ using SteadyClock = std::chrono::steady_clock;
 
 constexpr int kPassesPerWait = 10;
 constexpr DWORD kFastWaitMs = 10;
-constexpr DWORD kSlowWaitMs = 20;
 constexpr auto kStillAfter = std::chrono::milliseconds(500);
 constexpr DWORD kInputMode = ENABLE_PROCESSED_INPUT;  // keys only, Ctrl+C still handled
 constexpr DWORD kCursorSize = 100;
@@ -191,15 +192,61 @@ void present(ScreenModel& screen) {
   fullRepaint = false;
 }
 
-// A key-down of a key that yields a character or of an extended key: page
-// keys, End, Home, arrows, Insert, Delete and the function keys. Shift, Ctrl,
-// Alt, Caps Lock and releases do not count.
+// The character of a key as a code page 437 code, 0 for none.
+std::uint8_t asciiOf(WCHAR character) {
+  if (character < 0x80) return static_cast<std::uint8_t>(character);
+  int code = cp437::fromUnicode(character);
+  return code < 0 ? 0 : static_cast<std::uint8_t>(code);
+}
+
+// A console key event as the game reads it, with both the virtual key and
+// the character filled whatever the console delivered: wine's console on a
+// terminal sends Escape with no character, and a console may send a
+// character with no virtual key. A letter without its character takes its
+// case from Shift and Caps Lock, and with Ctrl is the control character.
+// Enter is 13 even as a line feed (Ctrl+Enter, or a terminal's Enter where
+// it turns carriage returns into line feeds).
+KeyEvent keyEventOf(const KEY_EVENT_RECORD& key) {
+  KeyEvent event;
+  event.keyDown = key.bKeyDown != 0;
+  event.virtualKey = key.wVirtualKeyCode;
+  event.ascii = asciiOf(key.uChar.UnicodeChar);
+  const WORD code = key.wVirtualKeyCode;
+  const std::uint8_t ascii = event.ascii;
+  if (code == VK_RETURN && ascii == '\n') {
+    event.ascii = kKeyEnter;
+  } else if (ascii == 0) {
+    const DWORD state = key.dwControlKeyState;
+    const bool ctrl = (state & (LEFT_CTRL_PRESSED | RIGHT_CTRL_PRESSED)) != 0;
+    const bool upper = ((state & SHIFT_PRESSED) != 0) != ((state & CAPSLOCK_ON) != 0);
+    if (code == VK_RETURN || code == VK_ESCAPE || code == VK_BACK || code == VK_TAB ||
+        code == VK_SPACE) {
+      event.ascii = static_cast<std::uint8_t>(code);
+    } else if (code >= 'A' && code <= 'Z') {
+      event.ascii = static_cast<std::uint8_t>(ctrl ? code - 'A' + 1 : upper ? code : code + 32);
+    } else if (code >= '0' && code <= '9' && (state & SHIFT_PRESSED) == 0) {
+      event.ascii = static_cast<std::uint8_t>(code);
+    }
+  } else if (code == 0) {
+    if (ascii == 13 || ascii == 27 || ascii == 8 || ascii == 9 || ascii == ' ' ||
+        (ascii >= '0' && ascii <= '9') || (ascii >= 'A' && ascii <= 'Z')) {
+      event.virtualKey = ascii;
+    } else if (ascii >= 'a' && ascii <= 'z') {
+      event.virtualKey = static_cast<std::uint16_t>(ascii - 32);
+    }
+  }
+  return event;
+}
+
+// A key-down of a key that yields a character (as the game reads it) or of
+// an extended key: page keys, End, Home, arrows, Insert, Delete and the
+// function keys. Shift, Ctrl, Alt, Caps Lock and releases do not count.
 bool counts(const INPUT_RECORD& record) {
   if (record.EventType != KEY_EVENT) return false;
-  const KEY_EVENT_RECORD& key = record.Event.KeyEvent;
-  if (!key.bKeyDown) return false;
-  if (key.uChar.UnicodeChar != 0) return true;
-  WORD code = key.wVirtualKeyCode;
+  const KeyEvent event = keyEventOf(record.Event.KeyEvent);
+  if (!event.keyDown) return false;
+  if (event.ascii != 0) return true;
+  const WORD code = event.virtualKey;
   return (code >= VK_PRIOR && code <= VK_DOWN) || code == VK_INSERT || code == VK_DELETE ||
          (code >= VK_F1 && code <= VK_F24);
 }
@@ -218,13 +265,6 @@ bool queueHoldsKey() {
     if (counts(records[i])) return true;
   }
   return false;
-}
-
-// The character of a key as a code page 437 code, 0 for none.
-std::uint8_t asciiOf(WCHAR character) {
-  if (character < 0x80) return static_cast<std::uint8_t>(character);
-  int code = cp437::fromUnicode(character);
-  return code < 0 ? 0 : static_cast<std::uint8_t>(code);
 }
 
 }  // namespace
@@ -282,7 +322,7 @@ void show(ScreenModel& screen) {
 bool keyWaiting() {
   DWORD waitMs = 0;
   if (SteadyClock::now() - lastChange > kStillAfter) {
-    waitMs = kSlowWaitMs;
+    waitMs = INFINITE;
   } else if (++passesSinceWait >= kPassesPerWait) {
     passesSinceWait = 0;
     waitMs = kFastWaitMs;
@@ -308,17 +348,13 @@ KeyEvent readKey() {
       ExitProcess(1);
     }
   }
-  KeyEvent event;
   if (record.EventType != KEY_EVENT) {
+    KeyEvent event;
     event.isKey = false;
     event.keyDown = false;
     return event;
   }
-  const KEY_EVENT_RECORD& key = record.Event.KeyEvent;
-  event.keyDown = key.bKeyDown != 0;
-  event.virtualKey = key.wVirtualKeyCode;
-  event.ascii = asciiOf(key.uChar.UnicodeChar);
-  return event;
+  return keyEventOf(record.Event.KeyEvent);
 }
 
 void flushKeys() {

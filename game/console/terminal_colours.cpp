@@ -7,6 +7,7 @@ namespace {
 
 constexpr int kConsoleDarkGrey = 8;
 constexpr int kConsoleLightRed = 12;
+constexpr int kConsoleWhite = 15;
 constexpr int kTerminalBlack = 0;
 constexpr int kTerminalWhite = 7;
 
@@ -29,20 +30,29 @@ bool lightGround(int terminalColour) {
 // choice, button or list row), white on red (the title's selected entry),
 // yellow on black (the selected room).
 constexpr std::uint8_t kChosenColours[] = {240, 241, 79, 14};
+// Three of them can stand on one screen for three different things, and
+// without colour each gets a mark of its own beside reverse video: a
+// highlighted choice (the yes of a question) is bold, a carried crew member
+// or an active tab underlined, a highlighted row or button neither.
+constexpr std::uint8_t kHighlightedChoice = 240;
+constexpr std::uint8_t kCarriedOrActive = 225;
 
 bool chosen(std::uint8_t colour) {
   return std::find(std::begin(kChosenColours), std::end(kChosenColours), colour) !=
          std::end(kChosenColours);
 }
 
+// White is the terminal's plain text; the other bright colours are bold, so
+// that the green of the ship's shields stands apart from the white hull.
 TerminalLook withoutColour(std::uint8_t colour) {
   const int foreground = colour & 15;
   const int background = colour >> 4;
   TerminalLook look;
   look.reverse = chosen(colour) || kLightness[background] > kLightness[foreground];
-  look.bold = foreground > kConsoleDarkGrey;
+  look.bold = (foreground > kConsoleDarkGrey && foreground != kConsoleWhite) ||
+              colour == kHighlightedChoice;
   look.dim = foreground == kConsoleDarkGrey;
-  look.underline = foreground == kConsoleLightRed;
+  look.underline = foreground == kConsoleLightRed || colour == kCarriedOrActive;
   return look;
 }
 

@@ -29,6 +29,9 @@ struct TerminalLook {
 // on a light ground and white on a dark one, so that nothing vanishes.
 // Without colour, dark text on a lighter ground and what the game draws as
 // chosen (a highlighted choice, button or list row, the title's selected
-// entry, the selected room) are shown in reverse video; bright text is bold,
-// light red text underlined, dark grey text dim.
+// entry, the selected room) are shown in reverse video; white text is plain,
+// the other bright colours bold, light red text underlined, dark grey text
+// dim. A highlighted choice is bold as well, and a carried crew member or an
+// active tab (blue on yellow) underlined, so that no two states of one
+// screen look alike.
 TerminalLook terminalLook(std::uint8_t colour, TerminalColours colours);

@@ -7,6 +7,8 @@
 #include <tuple>
 
 #include "game/console/widgets.h"
+#include "game/fleet/pane_box.h"
+#include "game/freighter/super_freighter.h"
 #include "game/planet/ground_map.h"
 #include "game/shell/ship_map.h"
 
@@ -28,36 +30,71 @@ TerminalLook lookOf(int colour, TerminalColours colours) {
   return terminalLook(static_cast<std::uint8_t>(colour), colours);
 }
 
-// What the game draws as chosen next to what it draws at rest in the same
-// place; `reversed`: without colour the chosen one is in reverse video.
-struct Choice {
-  const char* what;
-  int chosen;
-  int atRest;
-  bool reversed;
+// Two colours that one screen uses for two different states of what it
+// shows; on every terminal the player must tell the two apart.
+struct States {
+  const char* screen;
+  const char* first;
+  int firstColour;
+  const char* second;
+  int secondColour;
 };
 
-constexpr Choice kChoices[] = {
-    {"title entry", 79, 78, true},
-    {"menu button", kButtonSelected, kButtonAtRest, true},
-    {"list row", 241, 15, true},
-    {"yes or no", 240, 15, true},
-    {"ship map room", kRoomSelected, kRoomAtRest, true},
-    {"room flashing against the others", kRoomFlashing, kRoomAtRest, false},
-    {"room flashing against its selected look", kRoomFlashing, kRoomSelected, false},
-    {"sector border", kBorderLit, kBorderAtRest, false},
-    {"the ship's place against its destination", 13, 14, false},
+constexpr int kLitRow = 241;
+constexpr int kPlainText = 15;
+constexpr int kHighlightedChoice = 240;
+constexpr int kCarried = 225;
+
+constexpr States kStates[] = {
+    {"title", "the selected entry", 79, "an entry at rest", 78},
+    {"deck menu", "the selected button", kButtonSelected, "a button at rest", kButtonAtRest},
+    {"yes/no question", "the chosen word", kHighlightedChoice, "the other word", kPlainText},
+    {"list box", "the highlighted row", kLitRow, "a row", kPlainText},
+    {"ship map", "the selected room", kRoomSelected, "a room at rest", kRoomAtRest},
+    {"ship map", "a flashing room", kRoomFlashing, "the selected room", kRoomSelected},
+    {"ship map", "a flashing room", kRoomFlashing, "a room at rest", kRoomAtRest},
+    {"ship map", "the hull with shields on", 10, "the hull with shields off", kRoomAtRest},
+    {"Super Freighter", "the selected spot", kSpotSelected, "a spot at rest", kSpotAtRest},
+    {"Super Freighter", "a flashing spot", kSpotFlashing, "the selected spot", kSpotSelected},
+    {"Super Freighter", "the shielded Mothership", kShieldedShipColour, "a spot at rest",
+     kSpotAtRest},
+    {"Super Freighter", "the shielded Mothership", kShieldedShipColour, "the selected spot",
+     kSpotSelected},
+    {"Assign Crew Jobs", "the highlighted member", kLitRow, "the carried member", kCarried},
+    {"Assign Crew Jobs", "the carried member", kCarried, "a member", kPlainText},
+    {"Assign Crew Jobs", "the active list's title", kCarried, "another title", kPlainText},
+    {"docking bay lists", "the active tab", kTabActive, "another tab", kTabPlain},
+    {"docking bay lists", "the chosen row", kChosenRow, "a row", kPlainText},
+    {"Launch Space Capsule", "the highlighted line", kLitRow, "the chosen answer",
+     kHighlightedChoice},
+    {"Launch Space Capsule", "the highlighted label", kLitRow, "the label of the digits in use",
+     kCarried},
+    {"Launch Space Capsule", "the label of the digits in use", kCarried, "a label", kPlainText},
+    {"Launch Space Capsule", "the digit that moves", kLitRow, "a digit", kPlainText},
+    {"Launch Space Capsule", "the chosen answer", kHighlightedChoice, "the other answer",
+     kPlainText},
+    {"Change Work Schedules", "the chosen schedule", 12, "a schedule", kPlainText},
+    {"war maps", "the highlighted border", kBorderLit, "a border", kBorderAtRest},
+    {"war maps", "the letter of a built bunker", 14, "a letter", 15},
+    {"war maps", "the ship's place", 13, "its destination", 14},
+    {"war maps", "rubble", 8, "a nuclear wasteland (the same glyphs)", 10},
 };
 
-TEST(TerminalColours, WhatIsChosenStandsOutOnEveryTerminal) {
+// What the player sees of a look: with colour, the colours as shown (reverse
+// video swaps them), bold and underline; dim is left out, as many terminals
+// do not have it.
+std::tuple<int, int, bool, bool, bool> seen(const TerminalLook& look) {
+  const bool swap = look.reverse && look.foreground >= 0;
+  return {swap ? look.background : look.foreground, swap ? look.foreground : look.background,
+          look.bold, look.underline, look.reverse && !swap};
+}
+
+TEST(TerminalColours, TwoStatesOfAScreenStayApartOnEveryTerminal) {
   for (TerminalColours colours : kEveryPalette) {
-    for (const Choice& choice : kChoices) {
-      const TerminalLook chosen = lookOf(choice.chosen, colours);
-      const TerminalLook atRest = lookOf(choice.atRest, colours);
-      EXPECT_FALSE(chosen == atRest) << choice.what << " with " << nameOf(colours);
-      if (colours == TerminalColours::kNone && choice.reversed) {
-        EXPECT_TRUE(chosen.reverse && !atRest.reverse) << choice.what;
-      }
+    for (const States& pair : kStates) {
+      EXPECT_NE(seen(lookOf(pair.firstColour, colours)), seen(lookOf(pair.secondColour, colours)))
+          << pair.screen << ": " << pair.first << " looks like " << pair.second << " with "
+          << nameOf(colours);
     }
   }
 }
@@ -103,9 +140,11 @@ TEST(TerminalColours, ConsoleColoursBecomeTheTerminalsOwn) {
   }
 }
 
-TEST(TerminalColours, WithoutColourDarkTextOnALightGroundIsReversed) {
-  // The ship map's panel and help text, the war frame, a land tile's stage.
-  for (int colour : {32, 128, 48, 112}) {
+TEST(TerminalColours, WithoutColourWhatIsLitAndDarkTextOnALightGroundAreReversed) {
+  // The title's selected entry, a lit button or row, a highlighted choice,
+  // the selected room; the ship map's panel and help text, the war frame, a
+  // land tile's stage.
+  for (int colour : {79, 241, 240, 14, 32, 128, 48, 112}) {
     EXPECT_TRUE(lookOf(colour, TerminalColours::kNone).reverse) << colour;
   }
   // Plain text, an unselected button, the deck frame.

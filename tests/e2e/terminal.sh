@@ -12,6 +12,10 @@ sock="skarmada-e2e-$$"
 scratch=$(mktemp -d)
 t() { tmux -L "$sock" -f /dev/null "$@"; }
 trap 't kill-server >/dev/null 2>&1; rm -rf "$scratch"' EXIT
+# A session that lives as long as the test keeps tmux's server up between
+# games: a server that has just lost its last session is on its way out, and
+# a new session asked of it then fails ("server exited unexpectedly").
+t new-session -d -s keeper "sleep 100000"
 fail() {
   echo "FAIL: $*"
   echo "--- screen ---"
@@ -27,6 +31,14 @@ wait_for() {  # text [seconds]
   done
   fail "\"$1\" never came on the screen"
 }
+wait_for_either() {  # text text
+  local until=$((SECONDS + 5))
+  while ((SECONDS < until)); do
+    screen | grep -qF -e "$1" -e "$2" && return 0
+    sleep 0.05
+  done
+  fail "neither \"$1\" nor \"$2\" came on the screen"
+}
 key() { t send-keys -t game "$@"; sleep 0.15; }
 keys() { for k in "$@"; do key "$k"; done; }
 # From the Library room of the ship map: end the day.
@@ -39,6 +51,20 @@ end_day() {
 }
 pane() { t display-message -p -t game "$1"; }
 resize() { t resize-window -t game -x "$1" -y "$2"; }
+game_pid() { pgrep -P "$(pane '#{pane_pid}')" | head -n 1; }
+
+# A screen that has stood still waits for the key itself, not on a timer:
+# over two idle seconds the game wakes at most twice, and a key is still
+# answered at once.
+sleeps_when_still() {  # what is on the screen
+  local game before after
+  game=$(game_pid)
+  sleep 1
+  before=$(awk '/^voluntary_ctxt_switches/ { print $2 }' "/proc/$game/status")
+  sleep 2
+  after=$(awk '/^voluntary_ctxt_switches/ { print $2 }' "/proc/$game/status")
+  ((after - before <= 2)) || fail "$1: the still screen woke $((after - before)) times in 2 s"
+}
 
 # The game runs under a small shell that stays behind it, so that what the
 # game leaves of the terminal can be read: its exit code, whether the
@@ -232,6 +258,42 @@ wait_for "DAY:    1"
 wait_for "FUEL: 150,000"
 screen | sed -n 3,6p | grep -q "NAV" || fail "NAV COM room is not on the map"
 wait_for " NAVIGATION:"
+sleeps_when_still "the ship map"
+key Right
+wait_for " RESEARCH:" 1
+key Left
+wait_for " NAVIGATION:" 1
+
+# A terminal too small shows only a notice, whole at any width from 20
+# columns; keys typed behind it are lost, and at 80x25 again the game is
+# where it stood. The game waits without a timer here, and still sees the
+# changes of size.
+sleep 0.7
+shown=$(visible)
+notice() {  # columns rows: the notice, alone on the terminal
+  local text="Skarmada needs a terminal of 80x25; this one is $1x$2."
+  local until=$((SECONDS + 3)) words
+  while ((SECONDS < until)); do
+    words=$(screen | sed 's/^ *//; s/ *$//' | grep . | tr '\n' ' ')
+    [ "$words" = "$text " ] && return 0
+    sleep 0.05
+  done
+  fail "at $1x$2 the notice is not whole and alone"
+}
+resize 79 24
+notice 79 24
+keys Right Enter
+resize 20 5
+notice 20 5
+keys Down Enter Escape
+resize 80 25
+wait_for " NAVIGATION:" 2
+sleep 0.5
+[ "$(visible)" = "$shown" ] || fail "keys typed behind the notice changed the ship map"
+resize 40 12
+notice 40 12
+resize 80 25
+wait_for " NAVIGATION:" 2
 
 # Flow control is off while the game runs: Ctrl+S does not freeze the screen.
 stty -F "$(pane '#{pane_tty}')" -a | grep -qw -- -ixon || fail "flow control is on"
@@ -260,10 +322,10 @@ key Down
 wait_for " RESEARCH:" 2
 
 # Bytes that are no key (Latin-1, broken UTF-8, 8-bit Alt), one at a time
-# 20 ms apart, are ignored: the game goes on answering keys.
+# 5 ms apart, are ignored: the game goes on answering keys.
 bytes=(e9 ff 80 e1)
 for ((i = 0; i < 1100; ++i)); do
-  printf 'send-keys -t game -H %s\nrun-shell -d 0.02\n' "${bytes[i % 4]}"
+  printf 'send-keys -t game -H %s\nrun-shell -d 0.005\n' "${bytes[i % 4]}"
 done >"$scratch/bytes.tmux"
 t source-file "$scratch/bytes.tmux"
 screen | grep -q EXITED- && fail "bytes that are no key ended the game"
@@ -332,9 +394,13 @@ wait_for "your Ion Cannon. Whatever was there before isn't there now."
 key Escape
 wait_for "DAY:    4"
 
-# Ctrl+C ends the program at once and leaves the terminal as it was.
+# Ctrl+C ends the program at once, behind the notice of a terminal too
+# small too, and leaves the terminal as it was.
+resize 30 10
+notice 30 10
 key C-c
 ended 1 || fail "Ctrl+C did not end the game within a second"
+resize 80 25
 restored "Ctrl+C"
 t kill-session -t game
 
@@ -347,15 +413,28 @@ key Enter
 wait_for "DAY:    1"
 keys Right Down
 wait_for " LIBRARY:"
+# Each key waits for what it shows rather than for a fixed time (but Down,
+# which only moves the menu's colours).
+send() { t send-keys -t game "$1"; }
+food() { screen | grep -o 'FOOD: *[0-9,]*'; }
 for day in $(seq 2 31); do
-  key Enter
+  send Enter
   wait_for "End Turn Factor 6"
-  keys d Down Enter
+  fed=$(food)
+  send d
+  until=$((SECONDS + 5))
+  until [ "$(food)" != "$fed" ]; do
+    ((SECONDS < until)) || fail "the Library's food key did nothing"
+    sleep 0.02
+  done
+  key Down
+  send Enter
   wait_for "End Day?"
-  key y
-  sleep 0.2
-  screen | grep -qF "Good Morning" && key Escape
-  wait_for "DAY: $(printf '%4d' "$day")"
+  send y
+  morning="DAY: $(printf '%4d' "$day")"
+  wait_for_either "$morning" "Good Morning"
+  screen | grep -qF "Good Morning" && send Escape
+  wait_for "$morning"
 done
 key Down
 wait_for " SUPER FREIGHTER:"
@@ -368,6 +447,9 @@ t capture-pane -e -p -t game | sed -n 10p | grep -qE $'\e\\[(1;)?(33|93|38;5;11)
   fail "the bazaar is not lit yellow"
 keys Down Enter
 wait_for " SUPER FREIGHTER:"
+key Enter
+wait_for "MERCENARY    MARKET"
+sleeps_when_still "the Super Freighter"
 t kill-session -t game
 
 # Every signal that ends the process, as when the system shuts down or a
@@ -375,7 +457,7 @@ t kill-session -t game
 for signal in TERM HUP USR1 USR2 ALRM PIPE XCPU XFSZ VTALRM PROF; do
   start
   wait_for "NEW GAME"
-  game=$(pgrep -P "$(pane '#{pane_pid}')" | head -n 1)
+  game=$(game_pid)
   [ -n "$game" ] || fail "the game's process was not found"
   kill -s "$signal" "$game"
   ended 2 || fail "SIG$signal did not end the game"

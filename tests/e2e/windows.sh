@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # The Windows build of the game played under wine, on wine's console in a
 # terminal (tmux at 80x25): the title comes up, EXIT ends the game with code
-# 0; NEW GAME reaches the ship map, which answers a key; Ctrl+C ends the game
-# with the code Windows gives (0xC000013A, of which a Unix shell sees 58) and
-# the cursor is shown again.
+# 0; NEW GAME reaches the ship map, which answers a key; Escape leaves
+# Navigate Mothership and the deck menu; Ctrl+C ends the game with the code
+# Windows gives (0xC000013A, of which a Unix shell sees 58) and the cursor is
+# shown again.
 # Usage: windows.sh path/to/skarmada.exe   (WINEPREFIX may name wine's prefix)
 set -u
 exe=$(realpath "$1")
@@ -33,6 +34,21 @@ wait_for() {  # text [seconds]
   done
   fail "\"$1\" never came on the screen"
 }
+# A screen that reads keys one at a time throws away what comes before its
+# first look at the keys (the release of the key that opened it), and under
+# a busy wine that look may come well after the screen is shown.
+settled_on() {  # text
+  wait_for "$1"
+  sleep 0.7
+}
+wait_gone() {  # text
+  local until=$((SECONDS + 10))
+  while ((SECONDS < until)); do
+    screen | grep -qF -- "$1" || return 0
+    sleep 0.1
+  done
+  fail "\"$1\" stayed on the screen"
+}
 # Wine's console on a terminal now and then holds an arrow's escape sequence
 # back until more input comes: a blank sent behind each arrow, which the
 # title and the ship map ignore, pushes it through. Keys that reach the game
@@ -52,17 +68,24 @@ wait_chosen() {  # entry
 }
 
 # The game runs under a small shell that stays behind it and tells its exit
-# code. Wine's first start in a fresh prefix takes a while. Wine's console
-# on a terminal takes the line feed that the terminal makes of Enter for
-# Ctrl+Enter, so the terminal is told to pass Enter as it is. (It also holds
-# a lone Escape back until the next key, so no Escape is pressed here.)
+# code. Wine's first start in a fresh prefix takes a while. The terminal is
+# left as it is, as a player would have it.
 start() {
-  t new-session -d -s game -x 80 -y 25 "trap true INT; stty -icrnl;
+  t new-session -d -s game -x 80 -y 25 "trap true INT;
     env TERM=xterm-256color wine '$exe'; echo EXITED-\$?; sleep 60"
   wait_for "NEW GAME" 120
   wait_for "EXIT"
   [ "$(pane '#{cursor_flag}')" = 0 ] || fail "the cursor is shown on the title"
   sleep 1
+}
+# A deck menu's button that is lit: blue on white.
+wait_lit() {  # label
+  local until=$((SECONDS + 10))
+  while ((SECONDS < until)); do
+    t capture-pane -e -p -t game | grep -qE $'\e\\[([0-9]+;)*107(;[0-9]+)*m'"$1" && return 0
+    sleep 0.1
+  done
+  fail "\"$1\" was never lit"
 }
 ended_with() {  # code
   local until=$((SECONDS + 10))
@@ -85,11 +108,24 @@ key Enter
 ended_with 0
 t kill-session -t game
 
-# NEW GAME reaches the ship map, where an arrow walks to the next room.
+# NEW GAME reaches the ship map. Escape, which wine's console sends with no
+# character, leaves Navigate Mothership and then the deck's menu; an arrow
+# walks to the next room.
 start
 key Enter
 wait_for "DAY:    1"
 wait_for "FUEL: 150,000"
+wait_for " NAVIGATION:"
+key Enter
+settled_on "Navigate Mothership"
+arrow Down
+wait_lit "  Navigate Mothership"
+key Enter
+settled_on "Mothership's Destination"
+key Escape
+wait_gone "Mothership's Destination"
+settled_on "Navigate Mothership"
+key Escape
 wait_for " NAVIGATION:"
 arrow Right
 wait_for " RESEARCH:"
@@ -97,4 +133,4 @@ wait_for " RESEARCH:"
 # Ctrl+C ends the program at once and leaves the console as it was.
 key C-c
 ended_with 58
-echo "PASS: the Windows build under wine: title, EXIT, ship map, Ctrl+C"
+echo "PASS: the Windows build under wine: title, EXIT, ship map, Escape, Ctrl+C"

@@ -13,7 +13,9 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <chrono>
 #include <string>
+#include <thread>
 
 #include "game/console/backend.h"
 
@@ -43,13 +45,14 @@ void putCell(HANDLE buffer, int column, int row, wchar_t character, WORD attribu
   WriteConsoleOutputW(buffer, &cell, COORD{1, 1}, COORD{0, 0}, &to);
 }
 
-INPUT_RECORD keyRecord(bool down, WORD virtualKey, wchar_t character) {
+INPUT_RECORD keyRecord(bool down, WORD virtualKey, wchar_t character, DWORD state = 0) {
   INPUT_RECORD record{};
   record.EventType = KEY_EVENT;
   record.Event.KeyEvent.bKeyDown = down;
   record.Event.KeyEvent.wRepeatCount = 1;
   record.Event.KeyEvent.wVirtualKeyCode = virtualKey;
   record.Event.KeyEvent.uChar.UnicodeChar = character;
+  record.Event.KeyEvent.dwControlKeyState = state;
   return record;
 }
 
@@ -183,6 +186,43 @@ TEST_F(WindowsConsole, KeyWaitingCountsKeyDownsOfCharactersAndExtendedKeysOnly) 
   EXPECT_FALSE(backend::keyWaiting());
 }
 
+TEST_F(WindowsConsole, EveryKeyTheGameReadsComesWithBothFieldsWhateverTheConsoleSent) {
+  struct Case {
+    INPUT_RECORD record;
+    std::uint16_t virtualKey;
+    std::uint8_t ascii;
+    const char* what;
+  };
+  const Case cases[] = {
+      {keyRecord(true, VK_ESCAPE, 0), kKeyEscape, 27, "Escape as wine's console sends it"},
+      {keyRecord(true, VK_ESCAPE, 27), kKeyEscape, 27, "Escape with its character"},
+      {keyRecord(true, VK_RETURN, 0), kKeyEnter, 13, "Enter with no character"},
+      {keyRecord(true, VK_RETURN, L'\n', LEFT_CTRL_PRESSED), kKeyEnter, 13,
+       "Enter as a terminal's line feed"},
+      {keyRecord(true, VK_SPACE, 0), kKeySpace, ' ', "Space with no character"},
+      {keyRecord(true, VK_BACK, 0), kKeyBackspace, 8, "Backspace with no character"},
+      {keyRecord(true, VK_PRIOR, 0), kKeyPageUp, 0, "Page Up"},
+      {keyRecord(true, VK_NEXT, 0), kKeyPageDown, 0, "Page Down"},
+      {keyRecord(true, 'Y', 0), 'Y', 'y', "y with no character"},
+      {keyRecord(true, 'Y', 0, SHIFT_PRESSED), 'Y', 'Y', "Shift+Y with no character"},
+      {keyRecord(true, 'N', 0, CAPSLOCK_ON), 'N', 'N', "N under Caps Lock"},
+      {keyRecord(true, 'N', 0, CAPSLOCK_ON | SHIFT_PRESSED), 'N', 'n',
+       "Shift+N under Caps Lock"},
+      {keyRecord(true, 'N', L'N', SHIFT_PRESSED), 'N', 'N', "Shift+N with its character"},
+      {keyRecord(true, 0, L'y'), 'Y', 'y', "y with no virtual key"},
+      {keyRecord(true, 0, 27), kKeyEscape, 27, "Escape with no virtual key"},
+  };
+  for (const Case& c : cases) {
+    FlushConsoleInputBuffer(inputQueue());
+    queue(c.record);
+    EXPECT_TRUE(backend::keyWaiting()) << c.what;
+    const KeyEvent key = backend::readKey();
+    EXPECT_TRUE(key.isKey && key.keyDown) << c.what;
+    EXPECT_EQ(key.virtualKey, c.virtualKey) << c.what;
+    EXPECT_EQ(key.ascii, c.ascii) << c.what;
+  }
+}
+
 TEST_F(WindowsConsole, ReadKeyGivesEveryEventAsItCame) {
   queue(keyRecord(true, VK_RETURN, L'\r'));
   queue(keyRecord(true, 'E', L'\u00E9'));  // é: code 130 of code page 437
@@ -207,6 +247,23 @@ TEST_F(WindowsConsole, ReadKeyGivesEveryEventAsItCame) {
   EXPECT_FALSE(other.isKey);
   EXPECT_FALSE(other.keyDown);
   EXPECT_EQ(queued(), 0u) << describeQueue();
+}
+
+// A screen that has stood still for half a second is looked at with no time
+// limit: the look ends when the key comes, not on a timer.
+TEST_F(WindowsConsole, AStillScreenWaitsForTheKeyItself) {
+  backend::show(screen);
+  Sleep(600);
+  std::thread typist([] {
+    Sleep(300);
+    queue(keyRecord(true, 'A', L'a'));
+  });
+  const auto start = std::chrono::steady_clock::now();
+  const bool waiting = backend::keyWaiting();
+  const auto waited = std::chrono::steady_clock::now() - start;
+  typist.join();
+  EXPECT_TRUE(waiting);
+  EXPECT_GE(waited, std::chrono::milliseconds(250));
 }
 
 TEST_F(WindowsConsole, FlushBehindALookTakesWhatTheLookSawAndNoMore) {
