@@ -9,10 +9,17 @@
 
 namespace {
 
-Aircraft& shipCraft(int row) { return theMothership().aircraft().at(row); }
 Bunker& bunker(int sector) { return thePlanet().sector(sector).bunker(); }
 void crewUp(CrewList& crew, int count) {
   for (int i = 0; i < count; ++i) crew.add(kRaceMako, static_cast<std::uint8_t>(i % 2));
+}
+// The ship's craft at that row with its crew, on a job.
+Aircraft& shipCraft(int row, int crew = 0, int mission = kMissionInactive, int destination = 0) {
+  Aircraft& craft = theMothership().aircraft().at(row);
+  crewUp(craft.getCrew(), crew);
+  craft.setMission(mission);
+  craft.setDestination(destination);
+  return craft;
 }
 void mapLand(int sector, int k, int land) {
   thePlanet().subSector(sector, k).setLandType(land);
@@ -23,24 +30,17 @@ void mapLand(int sector, int k, int land) {
 // at work; bunkers built in sectors 2 and 7, one staffed but not built in
 // sector 3, and a site with no bunker yet in sector 9.
 void fleetAtWork() {
-  bunker(2).markBuilt();
+  for (int n : {2, 7}) bunker(n).markBuilt();
   bunker(2).setSubSector(5);
-  mapLand(2, 5, kDesert);
-  bunker(7).markBuilt();
   bunker(7).getAircraft().add(kStealthFighter, kDockLimit, 7);
   crewUp(bunker(7).getAircraft().at(0).getCrew(), 2);
   crewUp(bunker(3).getCrew(), 1);
   bunker(9).setSubSector(0);
-  crewUp(shipCraft(0).getCrew(), 1);
-  shipCraft(0).setMission(kMissionScouting);
-  shipCraft(0).setDestination(3);
-  crewUp(shipCraft(1).getCrew(), 2);
-  shipCraft(1).setMission(kMissionShuttling);
-  crewUp(shipCraft(2).getCrew(), 2);
-  shipCraft(2).setMission(kMissionDefending);
-  crewUp(shipCraft(3).getCrew(), 1);
-  shipCraft(3).setLocation(5);
-  shipCraft(3).setDestination(9);
+  shipCraft(0, 1, kMissionScouting, 3);
+  shipCraft(1, 2, kMissionShuttling);
+  shipCraft(2, 2, kMissionDefending);
+  shipCraft(3, 1, kMissionInactive, 9).setLocation(5);
+  mapLand(2, 5, kDesert);
   mapLand(3, 0, kMountains);
   mapLand(3, 1, kCity);
   thePlanet().subSector(3, 4).setLandType(kDesert);  // not yet known
@@ -50,7 +50,8 @@ const Scene kScenes[] = {
     {"the docking bay's buttons, and back from its screens",
      "@bay_view_ships_lit Down @bay_load_crew_lit Down @bay_missions_lit Down "
      "@bay_capsule_lit_with_count Down @bay_return_lit_count_wiped Down Enter Esc "
-     "@bay_back_from_view_ships Up Up Enter Esc @bay_back_from_capsule_count_shown",
+     "@bay_back_from_view_ships Up Up Enter Left Enter Up Esc Esc "
+     "@bay_back_from_capsule_count_shown",
      runDockingBay},
     {"no capsule ready: the button does nothing", "Up Up Enter @bay_no_capsule_ready",
      runDockingBay, [] { theMothership().addCapsules(-2); }},
@@ -60,7 +61,7 @@ const Scene kScenes[] = {
      viewShipsInDock,
      [] {
        fleetAtWork();
-       shipCraft(3).setMission(kMissionBombing);
+       shipCraft(3, 0, kMissionBombing, 9);
      }},
     {"no craft on the ship", "@ships_none_here x", viewShipsInDock,
      [] { theMothership().aircraft().clear(); }},
@@ -79,7 +80,8 @@ const Scene kScenes[] = {
      "@missions_menu_active_on_the_job Down Esc @missions_menu_left_nothing_lit Down "
      "@missions_bomber_menu Right Down Down Enter @missions_short_of_crew_row_stays_lit "
      "Up Up Up Right Up Enter @picker_travel_from_the_dock Down Enter "
-     "@picker_unbuilt_sector_not_taken Left Enter @picker_travel_aimed_at_a_built_bunker Right Right Up Up "
+     "@picker_unbuilt_sector_not_taken Left Enter @picker_travel_aimed_at_a_built_bunker Right "
+     "Right Up Up "
      "@picker_up_through_the_dock_from_4_lands_on_22 Left Down Down "
      "@picker_down_through_the_dock_from_21_lands_on_3 Esc @missions_after_the_picker Esc Down "
      "Down Right Up Right Down Down Enter @picker_attack_from_the_second_bunker Right Enter "
@@ -92,7 +94,8 @@ const Scene kScenes[] = {
      "Right Left @capsule_tens_lit_after_the_last_digit Enter Down Enter Right Up Up "
      "@capsule_materials_2000 Enter Down @capsule_destination_without_target Enter "
      "@capsule_target_map Down Enter @site_first_frame Right @site_cursor_on_a_city Down Esc "
-     "@capsule_destination_without_target Enter Down Left Enter @capsule_sector_with_a_site_skips_the_site_screen Left "
+     "@capsule_destination_without_target Enter Down Left Enter "
+     "@capsule_sector_with_a_site_skips_the_site_screen Left "
      "@capsule_yes_chosen Enter @capsule_launched x",
      launchSpaceCapsule, fleetAtWork},
 };
