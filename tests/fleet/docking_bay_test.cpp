@@ -18,11 +18,6 @@ namespace {
 void board(CrewList& crew, int count) {
   for (int i = 0; i < count; ++i) crew.add(kRaceMako, 0);
 }
-// Plays the screen; true if it ended by itself.
-bool play(void (*screen)(), const std::string& keys) {
-  scripted::addKeys(keys);
-  return !scripted::run(screen);
-}
 
 // A craft fits the dock when its type's dock space, a bomber's 100000, is
 // at most the room left.
@@ -56,7 +51,8 @@ TEST(Capacity, TheShipTakesCrewBackFromACraftUpToTwoHundredAndFifty) {
     ship.clear();
     board(ship, before);
     board(theMothership().aircraft().at(2).getCrew(), 1);
-    EXPECT_FALSE(play(loadCargoAndCrew, "Right Down Down Right Right Enter"));
+    scripted::addKeys("Right Down Down Right Right Enter");
+    EXPECT_TRUE(scripted::run(loadCargoAndCrew));
     EXPECT_EQ(ship.getCount(), std::min(before + 1, kShipCrewCapacity)) << before;
   }
 }
@@ -75,7 +71,8 @@ TEST(Capacity, ACapsuleTakesTwentyAndABunkerFifty) {
     std::string keys;
     for (int i = 0; i < boarding; ++i) keys += "Enter ";
     keys += launch ? "Left Down Down Enter Down Left Enter Left Enter x" : "Esc";
-    EXPECT_TRUE(play(launchSpaceCapsule, keys));
+    scripted::addKeys(keys);
+    EXPECT_FALSE(scripted::run(launchSpaceCapsule));
     EXPECT_EQ(bunker.getCrew().getCount(), bunkerAfter) << boarding << " to " << bunkerBefore;
     EXPECT_EQ(theMothership().crew().getCount(), 33 - (launch ? std::min(boarding, 20) : 0));
     EXPECT_EQ(theMothership().readyCapsules(), launch ? 1 : 2);

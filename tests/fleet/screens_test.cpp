@@ -1,5 +1,4 @@
 // The docking bay's screens, whole, against their goldens in tests/golden/fleet.
-#include "game/fleet/bunker_site.h"
 #include "game/fleet/docking_bay.h"
 #include "game/fleet/launch_space_capsule.h"
 #include "game/fleet/missions.h"
@@ -21,10 +20,6 @@ Aircraft& shipCraft(int row, int crew = 0, int mission = kMissionInactive, int d
   craft.setDestination(destination);
   return craft;
 }
-void mapLand(int sector, int k, int land) {
-  thePlanet().subSector(sector, k).setLandType(land);
-  thePlanet().subSector(sector, k).markMapped();
-}
 
 // The ship's saucer, barge, fighter and bomber, in that order, crewed and
 // at work; bunkers built in sectors 2 and 7, one staffed but not built in
@@ -40,9 +35,10 @@ void fleetAtWork() {
   shipCraft(1, 2, kMissionShuttling);
   shipCraft(2, 2, kMissionDefending);
   shipCraft(3, 1, kMissionInactive, 9).setLocation(5);
-  mapLand(2, 5, kDesert);
-  mapLand(3, 0, kMountains);
-  mapLand(3, 1, kCity);
+  for (auto [sector, k, land] : {std::tuple{2, 5, kDesert}, {3, 0, kMountains}, {3, 1, kCity}}) {
+    thePlanet().subSector(sector, k).setLandType(land);
+    thePlanet().subSector(sector, k).markMapped();
+  }
   thePlanet().subSector(3, 4).setLandType(kDesert);  // not yet known
 }
 
@@ -55,13 +51,19 @@ const Scene kScenes[] = {
      runDockingBay},
     {"no capsule ready: the button does nothing", "Up Up Enter @bay_no_capsule_ready",
      runDockingBay, [] { theMothership().addCapsules(-2); }},
-    {"the stat pages of the ship's craft",
+    {"the stat pages of the ship's craft, and of a saucer on each other job",
      "@ships_first_frame Down @ships_barge_stats Down @ships_fighter_full_crew Down "
-     "@ships_bomber_away_from_the_ship Up Up Up @ships_saucer_stats Enter",
+     "@ships_bomber_away_from_the_ship Up Up Up @ships_saucer_stats Down Down Down Down "
+     "@ships_inactive Down @ships_attacking Down @ships_traveling Down @ships_abducting_cows Down "
+     "@ships_abducting_humans Down @ships_escorting Enter",
      viewShipsInDock,
      [] {
        fleetAtWork();
        shipCraft(3, 0, kMissionBombing, 9);
+       for (int mission : {0, 2, 4, 5, 6, 8}) {
+         theMothership().aircraft().add(kSaucerTransport, kDockLimit, 0);
+         shipCraft(theMothership().aircraft().count() - 1, 0, mission);
+       }
      }},
     {"no craft on the ship", "@ships_none_here x", viewShipsInDock,
      [] { theMothership().aircraft().clear(); }},
