@@ -47,7 +47,8 @@ const Scene kScenes[] = {
      "@bay_view_ships_lit Down @bay_load_crew_lit Down @bay_missions_lit Down "
      "@bay_capsule_lit_with_count Down @bay_return_lit_count_wiped Down Enter Esc "
      "@bay_back_from_view_ships Up Up Enter Left Enter Up Esc Esc "
-     "@bay_back_from_capsule_count_shown",
+     "@bay_back_from_capsule_count_shown Up Enter Esc @bay_back_from_missions Up Enter Esc "
+     "@bay_back_from_load_crew",
      runDockingBay},
     {"no capsule ready: the button does nothing", "Up Up Enter @bay_no_capsule_ready",
      runDockingBay, [] { theMothership().addCapsules(-2); }},
@@ -80,25 +81,27 @@ const Scene kScenes[] = {
      "@missions_first_frame Right @missions_aircraft_active_menu_empty Right "
      "@missions_empty_menu_entered Enter Down Down @missions_fighter_on_its_job Right "
      "@missions_menu_active_on_the_job Down Esc @missions_menu_left_nothing_lit Down "
-     "@missions_bomber_menu Right Down Down Enter @missions_short_of_crew_row_stays_lit "
-     "Up Up Up Right Up Enter @picker_travel_from_the_dock Down Enter "
-     "@picker_unbuilt_sector_not_taken Left Enter @picker_travel_aimed_at_a_built_bunker Right "
-     "Right Up Up "
+     "@missions_bomber_menu Right Down Down Enter @missions_short_of_crew_row_stays_lit Up Up Up "
+     "Right Up Enter @picker_travel_from_the_dock Down Enter @picker_unbuilt_sector_not_taken Left "
+     "Enter @picker_travel_aimed_at_a_built_bunker Right Right Up Up "
      "@picker_up_through_the_dock_from_4_lands_on_22 Left Down Down "
      "@picker_down_through_the_dock_from_21_lands_on_3 Esc @missions_after_the_picker Esc Down "
-     "Down Right Up Right Down Down Enter @picker_attack_from_the_second_bunker Right Enter "
+     "Down Right Up Right Down Down Enter @picker_attack_from_the_second_bunker Right Right Up Up "
+     "Enter @picker_attack_aimed_at_the_dock Down Down Left Enter "
      "@picker_attack_aimed_at_any_sector Esc Right Down Down Enter "
      "@missions_escorting_taken_without_picker Esc Esc",
      assignAircraftMissions, fleetAtWork},
     {"a capsule loaded and launched",
      "@capsule_first_frame Enter Enter @capsule_two_aboard Right @capsule_onboard_active Right "
-     "@capsule_food_label_lit Enter Up @capsule_food_loaded_to_the_stock Right Right Right Right "
-     "Right Left @capsule_tens_lit_after_the_last_digit Enter Down Enter Right Up Up "
-     "@capsule_materials_2000 Enter Down @capsule_destination_without_target Enter "
-     "@capsule_target_map Down Enter @site_first_frame Right @site_cursor_on_a_city Down Esc "
-     "@capsule_destination_without_target Enter Down Left Enter "
-     "@capsule_sector_with_a_site_skips_the_site_screen Left "
-     "@capsule_yes_chosen Enter @capsule_launched x",
+     "@capsule_food_label_lit Left @capsule_left_from_food_onto_its_row Right Enter Up "
+     "@capsule_food_loaded_to_the_stock Right Right Right Right Right Left "
+     "@capsule_tens_lit_after_the_last_digit Enter Down Enter Right Up Up @capsule_materials_2000 "
+     "Enter Left @capsule_left_from_materials_onto_its_row Right Down Down "
+     "@capsule_destination_without_target Enter @capsule_target_map Down Enter @site_first_frame "
+     "Right @site_cursor_on_a_city Down Esc @capsule_destination_without_target Enter Down Left "
+     "Enter @capsule_sector_with_a_site_skips_the_site_screen Up "
+     "@capsule_target_kept_yes_and_no_wiped Down Left @capsule_yes_chosen Enter @capsule_launched "
+     "x",
      launchSpaceCapsule, fleetAtWork},
 };
 
