@@ -53,6 +53,9 @@ class MissionScreen {
   ListBoxState missionState_;
   Column active_ = kLocationColumn;
   bool missionsFilled_ = false;
+  // The mission row left lit while the column is not active: the present
+  // job's after a fill, the row Enter was pressed on, none after leaving.
+  int missionLit_ = -1;
 };
 
 void MissionScreen::drawFrameAndBox() {
@@ -76,6 +79,7 @@ void MissionScreen::fillMissions() {
     rows[i].text.assign(missionRow(c.getType(), static_cast<int>(i)).label);
   }
   missionState_ = {0, presentJobRow(c.getType(), c.getMission(), missionState_.cursor)};
+  missionLit_ = missionState_.cursor;
   missionsFilled_ = true;
 }
 
@@ -104,9 +108,7 @@ void MissionScreen::draw() {
   }
   if (active_ != kLocationColumn) paint(kLocationColumn, selected(locationState_));
   if (active_ == kMissionColumn) paint(kAircraftColumn, craftRow());
-  if (active_ != kMissionColumn && missionsFilled_) {
-    paint(kMissionColumn, presentJobRow(craft().getType(), craft().getMission(), -1));
-  }
+  if (active_ != kMissionColumn && missionsFilled_) paint(kMissionColumn, missionLit_);
 }
 
 void MissionScreen::wipeMissions() {
@@ -138,6 +140,7 @@ bool MissionScreen::onKey(int result) {
       break;
     case kMissionColumn:
       // Enter gives the row; an empty column gives nothing.
+      missionLit_ = result;
       if (result >= 0 && takeMissionRow(location(), craftRow(), result)) {
         drawFrameAndBox();
         missionsFilled_ = false;

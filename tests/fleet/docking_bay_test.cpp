@@ -1,158 +1,148 @@
+// What the docking bay's screens accept: how much each place takes (the
+// dock, a craft's crew, the ship's crew, a capsule and a bunker), which job
+// a craft's crew allows, and where a bunker may stand.
 #include "game/fleet/docking_bay.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "game/console/scripted.h"
-#include "game/fleet/location_table.h"
+#include "game/fleet/bunker_site.h"
+#include "game/fleet/launch_space_capsule.h"
+#include "game/fleet/missions.h"
 #include "game/planet/planet.h"
 #include "game/shell/mothership.h"
 #include "tests/support/fresh_game.h"
 
 namespace {
 
-constexpr int kFighterRow = 2;
-constexpr int kBomberRow = 3;
-
-std::string padded(std::string text, int width) {
-  text.resize(static_cast<std::size_t>(width), ' ');
-  return text;
+void board(CrewList& crew, int count) {
+  for (int i = 0; i < count; ++i) crew.add(kRaceMako, 0);
 }
 
-// Races in list order, as "3 4".
-std::string races(const CrewList& crew) {
-  std::string s;
-  for (int i = 0; i < crew.getCount(); ++i) {
-    s += (i ? " " : "") + std::to_string(crew.at(i).getRace());
+// A craft fits the dock when its type's dock space, a bomber's 100000, is
+// at most the room left.
+TEST(Capacity, TheDockTakesACraftThatExactlyFits) {
+  for (int room : {99999, 100000, 100001}) {
+    AircraftList list;
+    EXPECT_EQ(list.add(kHulkBomber, room, 0), room >= 100000) << room;
   }
-  return s;
 }
 
-class DockingBayTest : public ::testing::Test {
- protected:
-  void SetUp() override {
+// A craft's crew list holds its type's crew and no more (the stat pages
+// show it full or open).
+TEST(Capacity, EachCraftTakesItsCrewAndNoMore) {
+  const std::pair<int, int> cases[] = {
+      {kSaucerTransport, 10}, {kStealthFighter, 2}, {kHulkBomber, 3}, {kCargoBarge, 3}};
+  for (auto [type, capacity] : cases) {
+    Aircraft craft;
+    craft.setUp(type, 0);
+    board(craft.getCrew(), capacity + 1);
+    EXPECT_EQ(craft.getCrew().getCount(), capacity) << type;
+  }
+}
+
+// The ship holds 250: the fighter's one member comes back only while there
+// is room.
+TEST(Capacity, TheShipTakesCrewBackFromACraftUpToTwoHundredAndFifty) {
+  for (int before : {248, 249, 250}) {
     startFreshRun();
-    ship.crew().clear();
+    CrewList& ship = theMothership().crew();
+    ship.clear();
+    board(ship, before);
+    board(theMothership().aircraft().at(2).getCrew(), 1);
+    scripted::addKeys("Right Down Down Right Right Enter");
+    EXPECT_TRUE(scripted::run(loadCargoAndCrew));
+    EXPECT_EQ(ship.getCount(), std::min(before + 1, kShipCrewCapacity)) << before;
   }
-  // True if the screen ended by itself.
-  template <typename Screen>
-  bool play(Screen screen, const std::string& keys) {
+}
+
+// The capsule holds 20; the bunker 50, and those who find it full are lost.
+// Leaving without a launch puts everyone back.
+TEST(Capacity, ACapsuleTakesTwentyAndABunkerFifty) {
+  const std::tuple<int, int, int, bool> cases[] = {{2, 47, 49, true}, {2, 48, 50, true},
+                                                   {2, 49, 50, true}, {20, 0, 20, true},
+                                                   {21, 0, 20, true}, {2, 0, 0, false}};
+  for (const auto& [boarding, bunkerBefore, bunkerAfter, launch] : cases) {
+    startFreshRun();
+    Bunker& bunker = thePlanet().sector(2).bunker();
+    bunker.setSubSector(5);
+    board(bunker.getCrew(), bunkerBefore);
+    std::string keys;
+    for (int i = 0; i < boarding; ++i) keys += "Enter ";
+    keys += launch ? "Left Down Down Enter Down Left Enter Left Enter x" : "Esc";
     scripted::addKeys(keys);
-    return !scripted::run(screen);
+    EXPECT_FALSE(scripted::run(launchSpaceCapsule));
+    EXPECT_EQ(bunker.getCrew().getCount(), bunkerAfter) << boarding << " to " << bunkerBefore;
+    EXPECT_EQ(theMothership().crew().getCount(), 33 - (launch ? std::min(boarding, 20) : 0));
+    EXPECT_EQ(theMothership().readyCapsules(), launch ? 1 : 2);
   }
-  Mothership& ship = theMothership();
-  Aircraft& fighter() { return ship.aircraft().at(kFighterRow); }
-};
-
-TEST_F(DockingBayTest, TheStatPageReadsRowByRow) {
-  fighter().getCrew().add(kRaceMako, 0);
-  showCraftStats(kFighterRow);
-  EXPECT_EQ(scripted::textAt(28, 11, 42), padded("Crew-1 <OPEN> Artifacts-0 Bombs-0", 42));
-  fighter().getCrew().add(kRaceMako, 1);
-  showCraftStats(kFighterRow);
-  EXPECT_EQ(scripted::textAt(28, 11, 42), padded("Crew-2 <FULL>", 42))
-      << "a full crew hides the hold";
-  EXPECT_EQ(scripted::textAt(28, 6, 42), padded("Stealth Fighter", 42));
-  EXPECT_EQ(scripted::colourAt(28, 6), 14);
-  EXPECT_EQ(scripted::textAt(28, 13, 42), padded("Current Location: ", 42));
-  EXPECT_EQ(scripted::textAt(28, 14, 42), padded("Current Destination: Not Moving this turn", 42));
-
-  Aircraft& bomber = ship.aircraft().at(kBomberRow);
-  bomber.setMission(kMissionBombing);
-  bomber.setLocation(5);
-  bomber.setDestination(9);
-  showCraftStats(kBomberRow);
-  const std::string e(1, thePlanet().sector(5).letter());
-  const std::string i(1, thePlanet().sector(9).letter());
-  EXPECT_EQ(scripted::textAt(28, 11, 42), padded("Crew-0 <OPEN> Artifacts-0 Bombs-1", 42));
-  EXPECT_EQ(scripted::textAt(28, 12, 42), padded("Cargo Space Used: 2000", 42));
-  EXPECT_EQ(scripted::textAt(28, 13, 42), padded("Current Location: " + e, 42));
-  EXPECT_EQ(scripted::textAt(28, 14, 42), padded("Current Destination: " + i, 42));
-  EXPECT_EQ(scripted::textAt(28, 15, 42), padded("Current Mission: No Job yet Assigned", 42));
 }
 
-TEST_F(DockingBayTest, AFullCraftRefusesTheThirdMemberAndTheLastToBoardFlies) {
-  ship.crew().add(kRaceMako, 0);
-  ship.crew().add(kRaceUberfleck, 0);
-  ship.crew().add(kRaceMududu, 0);
-  // To the fighter, into CREW, three boardings, then out.
-  EXPECT_TRUE(play(loadCargoAndCrew, "Right Down Down Right Enter Enter Enter Esc Esc Esc"));
-  EXPECT_EQ(races(fighter().getCrew()), "4 3") << "the Uberfleck boarded last: the pilot";
-  EXPECT_EQ(races(ship.crew()), "6");
+// Up adds the lit digit's step, held to the capsule's 20000 in all and to
+// the stock; Down takes it away, stopping at 0.
+TEST(Capacity, CapsuleLoadsStopAtTheCapsulesRoomAndTheStock) {
+  const std::tuple<int, int, int, int, int, bool> cases[] = {
+      {1000, 0, 10000, 0, 1000, true},       {999, 0, 1000, 0, 999, true},
+      {9000, 15000, 10000, 0, 5000, true},   {30000, 0, 10000, 10000, 20000, true},
+      {30000, 1, 10000, 10000, 19999, true}, {30000, 0, 100, 50, 0, false}};
+  for (const auto& [foodStock, materialsLoad, step, foodBefore, foodAfter, add] : cases) {
+    CapsuleLoad load{.foodStock = foodStock,
+                     .foodLoad = foodBefore,
+                     .materialsLoad = materialsLoad,
+                     .step = step};
+    stepLoad(load, true, add);
+    EXPECT_EQ(load.foodLoad, foodAfter) << foodStock << " " << step << " " << foodBefore;
+  }
 }
 
-TEST_F(DockingBayTest, TwoCrewBoardTheFighterAndItsStatPageSaysFull) {
-  for (int i = 0; i < 30; ++i) ship.crew().add(kRacePovolnian, 1);
-  EXPECT_FALSE(play(runDockingBay,
-                    "Down Enter Right Down Down Right Enter Enter Esc Esc Esc Up Enter Down Down"));
-  EXPECT_EQ(scripted::textAt(28, 11, 42), padded("Crew-2 <FULL>", 42));
-  EXPECT_EQ(ship.crew().getCount(), 28);
+// Each row of the mission menu, one member short of its crew and with it,
+// the picker (if it opens) left at once with Escape: the craft stays aimed
+// at its own place, and Travel aimed nowhere ends as inactive.
+TEST(Missions, EachRowNeedsItsLeastCrewAndSetsItsCode) {
+  const int saucer = kSaucerTransport, fighter = kStealthFighter;
+  const std::tuple<int, int, int, int, bool> cases[] = {
+      {saucer, 0, 0, kMissionInactive, false},       {saucer, 1, 1, kMissionInactive, true},
+      {saucer, 2, 1, kMissionScouting, true},        {saucer, 3, 1, kMissionAbductingCows, true},
+      {saucer, 4, 1, kMissionAbductingHumans, true}, {fighter, 2, 2, kMissionAttacking, true},
+      {fighter, 3, 2, kMissionDefending, true},      {fighter, 4, 2, kMissionEscorting, false},
+      {kHulkBomber, 2, 2, kMissionBombing, true},    {kCargoBarge, 2, 1, kMissionShuttling, true}};
+  for (const auto& [type, row, leastCrew, code, picks] : cases) {
+    startFreshRun();
+    const int shipRow[] = {0, 2, 3, 1};  // the starting fleet's rows by type
+    Aircraft& craft = theMothership().aircraft().at(shipRow[type]);
+    const int before = code == kMissionShuttling ? kMissionScouting : kMissionShuttling;
+    for (int crew = std::max(leastCrew - 1, 0); crew <= leastCrew; ++crew) {
+      while (craft.getCrew().getCount() < crew) craft.getCrew().add(kRaceMako, 0);
+      craft.setMission(before);
+      craft.setDestination(9);
+      scripted::addKeys("Esc");
+      bool redraw = false;
+      scripted::run(
+          [&, type = type, row = row] { redraw = takeMissionRow(0, shipRow[type], row); });
+      SCOPED_TRACE(testing::Message() << type << "/" << row << " with " << crew);
+      EXPECT_EQ(redraw, crew >= leastCrew && picks);
+      EXPECT_EQ(craft.getMission(), crew >= leastCrew ? code : before);
+      EXPECT_EQ(craft.getDestination(), redraw ? 0 : 9);
+    }
+  }
 }
 
-TEST_F(DockingBayTest, CrewAndOnboardShareTheirCursorRow) {
-  for (int i = 0; i < 5; ++i) ship.crew().add(kRaceMako, 0);
-  fighter().getCrew().add(kRaceUberfleck, 0);  // the pilot
-  fighter().getCrew().add(kRaceMududu, 0);
-  // CREW row 3, across to ONBOARD (two members: held to row 1), Enter
-  // there; back through CREW, AIRCRAFT and LOCATION.
-  EXPECT_TRUE(
-      play(loadCargoAndCrew, "Right Down Down Right Down Down Down Right Enter Esc Esc Esc Esc"));
-  EXPECT_EQ(races(fighter().getCrew()), "4");
-  EXPECT_EQ(ship.crew().at(0).getRace(), kRaceMududu) << "back at the front of the ship";
-}
-
-TEST_F(DockingBayTest, AFullLocationTakesNobodyBack) {
-  for (int i = 0; i < kShipCrewCapacity; ++i) ship.crew().add(kRaceMako, 0);
-  fighter().getCrew().add(kRaceUberfleck, 0);
-  EXPECT_FALSE(play(loadCargoAndCrew, "Right Down Down Right Right Enter"));
-  EXPECT_EQ(ship.crew().getCount(), kShipCrewCapacity);
-  EXPECT_EQ(races(fighter().getCrew()), "4");
-  EXPECT_EQ(scripted::colourAt(57, 2), 225) << "ONBOARD still active";
-  EXPECT_EQ(scripted::textAt(57, 4, 18), padded(std::string(fighter().getCrew().at(0).name()), 18));
-}
-
-TEST_F(DockingBayTest, LeavingTheLocationWipesOnboardUntilTheNextCursorKey) {
-  fighter().getCrew().add(kRaceUberfleck, 0);
-  ship.aircraft().at(0).getCrew().add(kRaceMududu, 0);
-  EXPECT_FALSE(play(loadCargoAndCrew, "Right Down Down"));
-  EXPECT_EQ(scripted::textAt(57, 4, 18), padded(std::string(fighter().getCrew().at(0).name()), 18));
-  EXPECT_EQ(scripted::colourAt(19, 2), 225);
-  EXPECT_FALSE(play(loadCargoAndCrew, "Right Down Down Left Right"));
-  EXPECT_EQ(scripted::textAt(57, 4, 18), padded("", 18)) << "blank until a cursor key";
-  EXPECT_EQ(scripted::textAt(19, 4, 16), padded("Saucer Transport", 16)) << "cursor back on top";
-  EXPECT_EQ(scripted::colourAt(4, 4), 241) << "the location stays chosen";
-  EXPECT_FALSE(play(loadCargoAndCrew, "Right Down Down Left Right Down Up"));
-  EXPECT_EQ(scripted::textAt(57, 4, 18),
-            padded(std::string(ship.aircraft().at(0).getCrew().at(0).name()), 18));
-}
-
-TEST_F(DockingBayTest, OnlyTheShipAndBuiltBunkersAreLocations) {
-  thePlanet().sector(7).bunker().markBuilt();
-  thePlanet().sector(2).bunker().markBuilt();
-  thePlanet().sector(3).bunker().getCrew().add(kRaceMako, 0);  // staffed, not built
-  LocationTable table;
-  ASSERT_EQ(table.count(), 3);
-  EXPECT_EQ(table.rows()[0].text.view(), "Mothership");
-  EXPECT_EQ(table.location(1), 2);
-  EXPECT_EQ(table.location(2), 7);
-  EXPECT_EQ(table.rows()[2].text.view(),
-            "Bunker " + std::string(1, thePlanet().sector(7).letter()));
-}
-
-TEST_F(DockingBayTest, TheCapsuleCountStandsBesideItsButtonOnly) {
-  const std::string shown = padded("Ready Space Capsules: 2", 34);
-  EXPECT_FALSE(play(runDockingBay, "Down Down Down"));
-  EXPECT_EQ(scripted::textAt(4, 16, 34), shown);
-  EXPECT_FALSE(play(runDockingBay, "Down Down Down Down"));
-  EXPECT_EQ(scripted::textAt(4, 16, 34), padded("", 34));
-  EXPECT_FALSE(play(runDockingBay, "Up Up"));
-  EXPECT_EQ(scripted::textAt(4, 16, 34), shown);
-  ship.addCapsules(-2);
-  EXPECT_FALSE(play(runDockingBay, "Up Up Enter"));
-  EXPECT_EQ(scripted::textAt(4, 16, 34), padded("Ready Space Capsules: 0", 34))
-      << "no capsule: Enter does nothing";
-  EXPECT_EQ(scripted::colourAt(43, 16), 241);
+// Sub-sector 6 of sector 7 as the site: Enter takes it, or Escape leaves.
+TEST(BunkerSite, OnlyMappedMountainsDesertRubbleOrRuinsTakeABunker) {
+  const std::tuple<int, bool, bool> cases[] = {
+      {kMountains, true, true}, {kMountains, false, false},  {kDesert, true, true},
+      {kRubble, true, true},    {kRuins, true, true},        {kCity, true, false},
+      {kFarmLand, true, false}, {kMilitaryBase, true, false}};
+  for (const auto& [land, mapped, taken] : cases) {
+    startFreshRun();
+    SubSector& sub = thePlanet().subSector(7, 6);
+    sub.setLandType(land);
+    if (mapped) sub.markMapped();
+    scripted::addKeys("Right Right Down Enter Esc");
+    int site = -99;
+    scripted::run([&] { site = pickBunkerSite(7); });
+    EXPECT_EQ(site, taken ? 6 : -1) << land << (mapped ? " mapped" : " unmapped");
+  }
 }
 
 }  // namespace
