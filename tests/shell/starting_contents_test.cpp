@@ -1,9 +1,13 @@
+// What a game starts with, how a second game is cleared, and how morale
+// moves from one day to the next.
 #include "game/shell/starting_contents.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
+#include "game/console/random.h"
 #include "game/messages/message_log.h"
 #include "game/planet/planet.h"
 #include "game/shell/mothership.h"
@@ -11,118 +15,102 @@
 
 namespace {
 
-std::string fleetNames(const AircraftList& fleet) {
+std::string fleet() {
   std::string names;
-  for (int i = 0; i < fleet.count(); ++i) names += std::string(fleet.at(i).getName()) + ";";
+  const AircraftList& list = theMothership().aircraft();
+  for (int i = 0; i < list.count(); ++i) names += std::string(list.at(i).getName()) + ";";
   return names;
 }
 
-// Race and sex of each member in list order, as "1:1 1:0 ...".
-std::string crewMakeUp(const CrewList& crew) {
+// Race and sex of each member, in list order.
+std::string crew() {
   std::string s;
-  for (int i = 0; i < crew.getCount(); ++i) {
-    s += std::to_string(crew.at(i).getRace()) + ":" + std::to_string(crew.at(i).getSex()) + " ";
+  const CrewList& list = theMothership().crew();
+  for (int i = 0; i < list.getCount(); ++i) {
+    s += std::to_string(list.at(i).getRace()) + std::to_string(list.at(i).getSex()) + " ";
   }
   return s;
 }
 
-class StartingContentsTest : public ::testing::Test {
- protected:
-  void SetUp() override { startFreshRun(); }
-  Mothership& ship = theMothership();
-};
-
-TEST_F(StartingContentsTest, TheFourCraftBoardInOrderThroughTheDocksBudget) {
-  EXPECT_EQ(fleetNames(ship.aircraft()),
-            "Saucer Transport;Cargo Barge;Stealth Fighter;Hulk Bomber;");
-  EXPECT_EQ(ship.dockSpaceUsed(), 350000);
-  for (int i = 0; i < 4; ++i) {
-    const Aircraft& craft = ship.aircraft().at(i);
-    EXPECT_EQ(craft.getLocation(), 0);
-    EXPECT_EQ(craft.getDestination(), 0);
-    EXPECT_EQ(craft.getMission(), kMissionInactive);
-    EXPECT_EQ(craft.getCrew().getCount(), 0);
+TEST(Mothership, MoraleMovesByTheScheduleOrTheFamineWithinItsBounds) {
+  const struct {
+    float before;
+    int schedule;
+    unsigned food;
+    float after;
+  } kCases[] = {
+      {50, 0, 1, 55}, {50, 1, 1, 51}, {50, 2, 1, 50}, {50, 3, 1, 47}, {50, 4, 1, 35},
+      {50, 0, 0, 35}, {98, 0, 1, 100}, {16, 4, 1, 1}, {15, 4, 1, 0}, {14, 4, 1, 0},
+  };
+  for (const auto& c : kCases) {
+    startFreshRun();
+    theMothership().setMorale(c.before);
+    theMothership().setWorkSchedule(c.schedule);
+    theMothership().setFood(c.food);
+    theMothership().updateMorale();
+    EXPECT_EQ(theMothership().morale(), c.after) << c.before << " " << c.schedule << " " << c.food;
   }
+}
 
-  // With 120,000 units left, the barge and the bomber (100,000 each) are
-  // left out and the craft behind them still board.
-  ship.aircraft().clear();
-  ship.addCapsules(145);
-  ASSERT_EQ(ship.dockRoomLeft(), 120000);
+TEST(StartingContents, ANewRunsShipAndTheDrawsOfItsCrew) {
+  // Each Povolnian's sex is drawn before the six draws of its name.
+  seedRandom(99);
+  int draws[8];
+  for (int& d : draws) d = gameRand();
+  startFreshRun(99);
+  EXPECT_EQ(fleet(), "Saucer Transport;Cargo Barge;Stealth Fighter;Hulk Bomber;");
+  EXPECT_EQ(theMothership().advisors().size(), 9u);
+  EXPECT_EQ(theMothership().crew().at(0).getSex(), draws[0] % 2);
+  EXPECT_EQ(theMothership().crew().at(1).getSex(), draws[7] % 2);
+  for (int i = 0; i < 20; ++i) EXPECT_EQ(theMothership().crew().at(i).getRace(), kRacePovolnian);
+  EXPECT_EQ(crew().substr(60), "60 61 60 61 60 41 40 41 40 41 31 30 31 ");
+  // With 120,000 units of dock left, the barge and the bomber (100,000
+  // each) stay out and the craft behind them still board.
+  theMothership().aircraft().clear();
+  theMothership().addCapsules(145);
   layStartingContents();
-  EXPECT_EQ(fleetNames(ship.aircraft()), "Saucer Transport;Stealth Fighter;");
-  EXPECT_EQ(ship.dockRoomLeft(), 50000);
+  EXPECT_EQ(fleet(), "Saucer Transport;Stealth Fighter;");
 }
 
-TEST_F(StartingContentsTest, ALaunchedCapsuleFreesRoomForACraftThatThenExactlyFits) {
-  ship.addCapsules(140);
-  ship.aircraft().add(kSaucerTransport, ship.dockRoomLeft(), 0);
-  ASSERT_EQ(ship.dockRoomLeft(), 10000);
-  EXPECT_FALSE(ship.aircraft().add(kSaucerTransport, ship.dockRoomLeft(), 0));
-  ship.addCapsules(-1);
-  EXPECT_TRUE(ship.aircraft().add(kSaucerTransport, ship.dockRoomLeft(), 0));
-  EXPECT_EQ(ship.dockRoomLeft(), 10000);
-}
-
-TEST_F(StartingContentsTest, ANewGameEmptiesShipAndBunkersButLeavesTheLand) {
-  // A game played for a while: crew, cargo, a built bunker with its people
-  // and a fighter, a sub-sector shot to rubble, news in the log.
+TEST(StartingContents, ANewGameEmptiesShipAndBunkersButLeavesTheLandAndTheLog) {
+  startFreshRun();
+  Mothership& ship = theMothership();
   for (int i = 0; i < 40; ++i) ship.crew().add(kRaceMako, 1);
   ship.bombs().add(kBombFlack, ship.cargoRoomLeft());
   ship.eggs().add(kRacePovolnian, ship.cargoRoomLeft());
   ship.aircraft().at(1).getCrew().add(kRaceMako, 0);
   ship.addCapsules(-2);
-  ship.setMorale(12.5f);
   ship.setWorkSchedule(0);
+  ship.toggleShields();
+  ship.setDestination(5);
   Bunker& bunker = thePlanet().sector(5).bunker();
-  bunker.setSubSector(3);
   bunker.markBuilt();
   bunker.getCrew().add(kRaceMako, 0);
-  bunker.getAircraft().add(kStealthFighter, 6000000, 5);
+  bunker.getAircraft().add(kStealthFighter, kDockLimit, 5);
   bunker.addFood(700);
-  bunker.addMaterials(300);
   thePlanet().subSector(9, 6).setLandType(kRubble);
   theMessageLog().post("The last game's news", 3);
-  GlobalValues& g = globals();
-  g.day = 77;
-  g.cosmicCredits = 1;
-  g.freighterCountdown = -4;
-  g.gameOver = true;
-  g.lowFoodWarned = true;
-  g.gamePlayed = true;
+  globals() = {77, 1, -4, true, true, true};
 
   resetGame();
 
-  EXPECT_EQ(fleetNames(ship.aircraft()),
-            "Saucer Transport;Cargo Barge;Stealth Fighter;Hulk Bomber;");
+  EXPECT_EQ(fleet(), "Saucer Transport;Cargo Barge;Stealth Fighter;Hulk Bomber;");
   EXPECT_EQ(ship.aircraft().at(1).getCrew().getCount(), 0);
-  EXPECT_EQ(crewMakeUp(ship.crew()),
-            "1:1 1:1 1:1 1:1 1:1 1:1 1:1 1:1 1:1 1:1 1:1 "
-            "1:0 1:0 1:0 1:0 1:0 1:0 1:0 1:0 1:0 "
-            "6:0 6:1 6:0 6:1 6:0 "
-            "4:0 4:0 4:1 4:0 4:0 ");
+  EXPECT_EQ(crew(), "11 11 11 11 11 11 11 11 11 11 11 10 10 10 10 10 10 10 10 10 "
+                    "60 61 60 61 60 40 40 41 40 40 ");
   EXPECT_EQ(ship.advisors().size(), 9u);
-  EXPECT_EQ(ship.bombs().count(), 0);
-  EXPECT_EQ(ship.eggs().count(), 0);
+  EXPECT_EQ(ship.bombs().count() + ship.eggs().count(), 0);
   EXPECT_EQ(ship.readyCapsules(), 2);
-  EXPECT_EQ(ship.dockSpaceUsed(), 350000);
-  EXPECT_EQ(ship.morale(), 100.0f);
+  EXPECT_FALSE(ship.shieldsOn());
+  EXPECT_EQ(ship.destinationSector(), 0);
   EXPECT_EQ(ship.workSchedule(), 0) << "the schedule is the player's, kept";
-
-  for (int n = 1; n <= kSectorCount; ++n) {
-    const Bunker& b = thePlanet().sector(n).bunker();
-    EXPECT_FALSE(b.isBuilt()) << n;
-    EXPECT_EQ(b.getCrew().getCount() + b.getAircraft().count() + b.getFood() + b.materials(), 0)
-        << n;
-  }
+  EXPECT_FALSE(bunker.isBuilt());
+  EXPECT_EQ(bunker.getCrew().getCount() + bunker.getAircraft().count() + bunker.getFood(), 0);
   EXPECT_EQ(thePlanet().subSector(9, 6).landType(), kRubble);
   EXPECT_EQ(theMessageLog().count(), 1);
-  EXPECT_EQ(g.day, 1);
-  EXPECT_EQ(g.cosmicCredits, 5000);
-  EXPECT_EQ(g.freighterCountdown, 30);
-  EXPECT_FALSE(g.gameOver);
-  EXPECT_TRUE(g.lowFoodWarned);
-  EXPECT_TRUE(g.gamePlayed);
+  const GlobalValues& g = globals();
+  EXPECT_EQ(std::tie(g.day, g.cosmicCredits, g.freighterCountdown, g.gameOver, g.lowFoodWarned),
+            std::make_tuple(1, 5000, 30, false, true));
 }
 
 }  // namespace
