@@ -1,9 +1,13 @@
 // The Library deck and the morning report, whole, against their goldens in
-// tests/golden/messages.
+// tests/golden/messages; and what the Library's hidden keys bring aboard.
 #include <string>
+#include <tuple>
 
+#include "game/console/scripted.h"
 #include "game/messages/library_deck.h"
 #include "game/messages/message_log.h"
+#include "game/shell/mothership.h"
+#include "tests/support/fresh_game.h"
 #include "tests/support/golden.h"
 
 namespace {
@@ -36,13 +40,17 @@ const Scene kScenes[] = {
      runMorningReport, [] { post(6); }},
     {"nine messages of every priority",
      R"(@report_page_1_of_2 Backspace Left @report_page_1_of_2 Space @report_page_2_of_2
-      Space Right @report_page_2_of_2 Release x Up @report_page_2_of_2 Left @report_page_1_of_2
-      Right @report_page_2_of_2 Backspace @report_page_1_of_2 Esc)",
+      Space Right @report_page_2_of_2 Release x Up @report_page_2_of_2
+      Left @report_page_1_after_page_2 Right @report_page_2_of_2
+      Backspace @report_page_1_after_page_2 Esc)",
      runMorningReport,
      [] {
        MessageLog& log = theMessageLog();
        log.post("Bunker in sector D will be ready for use tomorrow!", 3);
-       log.post("Nothing new from the planet below.", 0);
+       log.post("Nothing new from the planet below, "
+                "sir: no news of the fleet, none of the bunkers, none of the enemy; the log "
+                "keeps 150 characters of a message and drops the rest, like these words.",
+                0);
        log.post("We dont even have enough fuel to get into orbit! Perhaps we should use an "
                 "alternative energy source... I'll talk to Hyde.",
                 6);
@@ -58,5 +66,33 @@ const Scene kScenes[] = {
 };
 
 TEST(Screens, Messages) { playScenes("messages", kScenes); }
+
+// The hidden keys: what each brings aboard, and an add that does not fit
+// dropped without a word. The stores they fill show in a golden.
+TEST(LibraryHiddenKeys, EachKeyBringsItsThingAboardWhileThereIsRoom) {
+  startFreshRun();
+  Mothership& ship = theMothership();
+  ship.aircraft().clear();
+  ship.crew().clear();
+  scripted::addKeys("5 6 7 8 k v");
+  scripted::run(runLibraryDeck);
+  std::string types;
+  for (int i = 0; i < ship.aircraft().count(); ++i) types += '0' + ship.aircraft().at(i).getType();
+  EXPECT_EQ(types, "0312");
+  EXPECT_EQ(std::tuple(ship.readyCapsules(), ship.crew().getCount(), ship.crew().at(0).getRace(),
+                       ship.crew().at(0).getSex()),
+            std::tuple(3, 1, kRacePovolnian, 0));
+
+  // 57 more barges leave room for one fighter exactly, and 248 more crew
+  // room for one.
+  ship.addCapsules(-3);
+  for (int i = 0; i < 57; ++i) ship.aircraft().add(kCargoBarge, ship.dockRoomLeft(), 0);
+  for (int i = 0; i < 248; ++i) ship.crew().add(kRaceMako, 1);
+  scripted::addKeys("5 6 8 7 7 5 v v");
+  scripted::run(runLibraryDeck);
+  EXPECT_EQ(std::tuple(ship.aircraft().count(), ship.dockRoomLeft(), ship.crew().getCount()),
+            std::tuple(62, 0, 250));
+  EXPECT_EQ(ship.crew().at(249).getRace(), kRacePovolnian);
+}
 
 }  // namespace

@@ -1,16 +1,20 @@
-// The end of a day: its news and screens at every threshold. The news of
-// whole nights, word for word and in order, is in the goldens.
+// A game's days: the end of a day, its news and screens at every threshold
+// (the news of whole nights, word for word and in order, is in the
+// goldens); what a game starts with, and how a second game is cleared.
 #include "game/shell/day.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 #include <string>
+#include <tuple>
 
+#include "game/console/random.h"
 #include "game/console/scripted.h"
 #include "game/messages/message_log.h"
 #include "game/planet/planet.h"
 #include "game/shell/mothership.h"
+#include "game/shell/starting_contents.h"
 #include "tests/support/fresh_game.h"
 #include "tests/support/log_text.h"
 
@@ -26,12 +30,9 @@ std::string screens;
 std::string endDay() {
   screens.clear();
   scripted::setPlayer([](KeyEvent& key) {
-    const std::string line = scripted::textAt(0, 21, 27);
-    screens += line.starts_with("Hurry")                        ? 'F'
-               : line.starts_with("YOU ARE DEAD CAPTAIN! YOUR") ? 'O'
-               : line.starts_with("YOU ARE DEAD CAPTAIN! KRYP") ? 'M'
-               : line.starts_with("YOU WIN")                    ? 'V'
-                                                                : '?';
+    // Told apart by the 23rd cell of row 21: "...", "YOUR", "KRYPTAL", blank.
+    const char at = static_cast<char>(scripted::codeAt(22, 21));
+    screens += at == '.' ? 'F' : at == 'Y' ? 'O' : at == 'K' ? 'M' : at == ' ' ? 'V' : '?';
     key = KeyEvent::typed('x');
     return true;
   });
@@ -43,119 +44,150 @@ std::string endDay() {
   return words;
 }
 
-TEST(Day, MoraleNewsReadsTheMoraleAfterTheDaysChange) {
-  const struct { float morale; int schedule; const char* news; } kCases[] = {
-      {9, 2, "Frequent "}, {10, 2, "Emerson "}, {11, 2, "Emerson "}, {19.9f, 2, "Emerson "},
-      {20, 2, ""},         {21, 2, ""},         {22, 3, "Emerson "}, {8, 0, "Emerson "}};
-  for (const auto& c : kCases) {
-    startFreshRun();
-    theMothership().setMorale(c.morale);
-    theMothership().setWorkSchedule(c.schedule);
-    EXPECT_EQ(endDay(), c.news) << c.morale << " on schedule " << c.schedule;
-  }
-}
+// One night from a new game's ship, changed, and what it brings.
+struct Night {
+  unsigned food = 1000;
+  float morale = 100;
+  int schedule = 2, fuel = 150000, destination = 0;
+  const char* news = "";
+  const char* screens = "";
+  int moraleAfter = 100;
+  unsigned foodAfter = 957;
+};
 
-TEST(Day, FuelNewsAndTheEmptyTankReadTheTankAfterTheShipHasMoved) {
-  const struct { int fuel, destination; const char* news; const char* screens; } kCases[] = {
-      {0, 0, "We ", "O"},     {1, 0, "We ", ""},      {9999, 0, "We ", ""},  {10000, 0, "Were ", ""},
-      {10001, 0, "Were ", ""}, {49999, 0, "Were ", ""}, {50000, 0, "", ""},    {50001, 0, "", ""},
-      {59999, 1, "Were ", ""}, {10000, 1, "We ", "O"},  {10001, 1, "We ", ""}};
-  for (const auto& c : kCases) {
+TEST(Day, NewsAndEndingsAtTheThresholdsOfMoraleFuelAndFood) {
+  const Night kNights[] = {
+      // Morale news and the mutiny read the morale after the day's change.
+      {.morale = 9, .news = "Frequent ", .moraleAfter = 9},
+      {.morale = 10, .news = "Emerson ", .moraleAfter = 10},
+      {.morale = 11, .news = "Emerson ", .moraleAfter = 11},
+      {.morale = 19.9f, .news = "Emerson ", .moraleAfter = 19},
+      {.morale = 20, .moraleAfter = 20}, {.morale = 21, .moraleAfter = 21},
+      {.morale = 22, .schedule = 3, .news = "Emerson ", .moraleAfter = 19},
+      {.morale = 8, .schedule = 0, .news = "Emerson ", .moraleAfter = 13},
+      {.morale = 50, .schedule = 1, .moraleAfter = 51}, {.morale = 100, .schedule = 0},
+      {.morale = 50, .schedule = 4, .moraleAfter = 35}, {.morale = 98, .schedule = 0},
+      {.morale = 16, .schedule = 4, .news = "Frequent ", .moraleAfter = 1},
+      {.morale = 14, .schedule = 4, .news = "Frequent ", .screens = "M", .moraleAfter = 0},
+      {.morale = 0.9f, .news = "Frequent ", .screens = "M", .moraleAfter = 0},
+      // Fuel news and the empty tank read the tank after the ship has moved.
+      {.fuel = 0, .news = "We ", .screens = "O"}, {.fuel = 1, .news = "We "},
+      {.fuel = 9999, .news = "We "}, {.fuel = 10000, .news = "Were "},
+      {.fuel = 10001, .news = "Were "}, {.fuel = 49999, .news = "Were "}, {.fuel = 50000},
+      {.fuel = 50001}, {.fuel = 59999, .destination = 1, .news = "Were "},
+      {.fuel = 10000, .destination = 1, .news = "We ", .screens = "O"},
+      // 33 crew, 9 advisors and the captain eat 43; the famine costs 15.
+      {.food = 42, .news = "Your ", .screens = "F", .moraleAfter = 85, .foodAfter = 0},
+      {.food = 43, .news = "Your ", .screens = "F", .moraleAfter = 85, .foodAfter = 0},
+      {.food = 44, .foodAfter = 1},
+  };
+  for (const Night& n : kNights) {
+    SCOPED_TRACE(::testing::Message() << "night " << &n - kNights);
     startFreshRun();
-    theMothership().setFuel(c.fuel);
-    theMothership().setDestination(c.destination);
-    EXPECT_EQ(endDay(), c.news) << c.fuel << " bound for " << c.destination;
-    EXPECT_EQ(screens, c.screens) << c.fuel << " bound for " << c.destination;
+    Mothership& ship = theMothership();
+    ship.setFood(n.food);
+    ship.setMorale(n.morale);
+    ship.setWorkSchedule(n.schedule);
+    ship.setFuel(n.fuel);
+    ship.setDestination(n.destination);
+    EXPECT_EQ(endDay(), n.news);
+    EXPECT_EQ(screens, n.screens);
+    EXPECT_EQ(ship.moraleWhole(), n.moraleAfter);
+    EXPECT_EQ(ship.food(), n.foodAfter);
   }
 }
 
 TEST(Day, TheFreightersNewsByItsNewCountdown) {
   const struct { int countdownBefore; const char* news; int priority; } kCases[] = {
-      {5, "", 0},
-      {4, "The Super Freighter will arrive in orbit in 3 days!", 3},
-      {3, "The Super Freighter will arrive in orbit in 2 days!", 3},
-      {2, "The Super Freighter will arrive in orbit tomorrow!", 3},
-      {1, "The Super Freighter has arrived in orbit!", 5},
-      {0, "The Super Freighter is currently in orbit!", 4},
-      {-4, "The Super Freighter is currently in orbit!", 4},
-      {-5, "The Super Freighter leaves tomorrow!", 5},
-      {31, "", 0},
-      {-6, "", 0}};
+      {5, "", 0}, {4, "will arrive in orbit in 3 days!", 3}, {1, "has arrived in orbit!", 5},
+      {3, "will arrive in orbit in 2 days!", 3}, {2, "will arrive in orbit tomorrow!", 3},
+      {0, "is currently in orbit!", 4},  {-4, "is currently in orbit!", 4},
+      {-5, "leaves tomorrow!", 5},  {31, "", 0},  {-6, "", 0}};
   for (const auto& c : kCases) {
     startFreshRun();
     globals().freighterCountdown = c.countdownBefore;
     scripted::run(runDay);
     const Message* first = theMessageLog().at(0);
-    EXPECT_EQ(first ? first->text.view() : "", c.news) << c.countdownBefore;
+    const std::string news = *c.news ? "The Super Freighter " + std::string(c.news) : "";
+    EXPECT_EQ(first ? first->text.view() : "", news) << c.countdownBefore;
     EXPECT_EQ(first ? first->priority : 0, c.priority) << c.countdownBefore;
   }
   EXPECT_EQ(globals().freighterCountdown, 30) << "seven days in orbit, then 30 away";
 }
 
-TEST(Day, TheMealThenTheFamineThenMorale) {
-  // 33 crew, 9 advisors and the captain: 43 mouths.
-  const struct { unsigned food, left; const char* news; const char* screens; int morale; } kCases[] = {
-      {42, 0, "Your ", "F", 85}, {43, 0, "Your ", "F", 85}, {44, 1, "", "", 100}};
-  for (const auto& c : kCases) {
-    startFreshRun();
-    theMothership().setFood(c.food);
-    EXPECT_EQ(endDay(), c.news) << c.food;
-    EXPECT_EQ(screens, c.screens) << c.food;
-    EXPECT_EQ(theMothership().food(), c.left) << c.food;
-    EXPECT_EQ(theMothership().moraleWhole(), c.morale) << c.food;
-  }
-}
-
 TEST(Day, TheFamineWarningComesOncePerFamine) {
   // Night by night: the food and the morale at dusk, and the screens shown.
   const struct { unsigned food; float morale; const char* screens; } kNights[] = {
-      {0, 100, "F"}, {0, 100, ""}, {1000, 100, ""}, {0, 100, "F"}, {0, 0.5f, "M"}, {0, 100, "F"}};
+      {0, 100, "F"}, {0, 100, ""}, {1000, 100, ""}, {0, 100, "F"}, {0, 0.5f, "M"}, {0, 100, "F"},
+  };
   startFreshRun();
-  int night = 0;
   for (const auto& n : kNights) {
     theMothership().setFood(n.food);
     theMothership().setMorale(n.morale);
     endDay();
-    EXPECT_EQ(screens, n.screens) << "night " << ++night;
+    EXPECT_EQ(screens, n.screens) << "night " << &n - kNights;
   }
 }
 
-TEST(Day, TheEndTestsAtTheirEdgesAndInTheirOrder) {
-  const struct { int fuel; float morale; int enemiesLeft; const char* screens; } kCases[] = {
-      {1, 1, 1, ""}, {0, 1, 1, "O"}, {1, 0.9f, 1, "M"}, {1, 1, 0, "V"}, {0, 0, 0, "OMV"}};
-  for (const auto& c : kCases) {
-    startFreshRun();
-    theMothership().setFuel(c.fuel);
-    theMothership().setMorale(c.morale);
-    for (int n = 1; n <= kSectorCount; ++n) {
-      for (int k = 0; k < kSubSectorCount; ++k) {
-        SubSector& s = thePlanet().subSector(n, k);
-        s.addPopulation(-static_cast<int>(s.population()));
-        s.addTroops(-static_cast<int>(s.troops()));
-      }
-    }
-    thePlanet().subSector(24, 15).addTroops(c.enemiesLeft);
-    endDay();
-    EXPECT_EQ(screens, c.screens) << c.fuel << " " << c.morale << " " << c.enemiesLeft;
-    EXPECT_EQ(isGameOver(), *c.screens != '\0');
+// The types of the ship's craft, and the race and sex of each crew member,
+// in list order.
+std::string aboard() {
+  std::string s;
+  const AircraftList& craft = theMothership().aircraft();
+  const CrewList& crew = theMothership().crew();
+  for (int i = 0; i < craft.count(); ++i) s += std::to_string(craft.at(i).getType());
+  for (int i = 0; i < crew.getCount(); ++i) {
+    s += " " + std::to_string(crew.at(i).getRace()) + std::to_string(crew.at(i).getSex());
   }
+  return s;
 }
 
-TEST(Day, EveryBunkerEatsInSectorOrder) {
+TEST(StartingContents, ANewRunsShipAndTheDrawsOfItsCrew) {
+  // Each Povolnian's sex is drawn before the six draws of its name.
+  seedRandom(99);
+  int draws[8];
+  for (int& d : draws) d = gameRand();
+  startFreshRun(99);
+  const std::string s = aboard();
+  EXPECT_EQ(s.substr(0, 10), "0312 1" + std::to_string(draws[0] % 2) + " 1" +
+                                 std::to_string(draws[7] % 2));
+  for (int i = 0; i < 20; ++i) EXPECT_EQ(s[5 + 3 * i], '1') << "Povolnian " << i;
+  EXPECT_EQ(s.substr(64), " 60 61 60 61 60 41 40 41 40 41 31 30 31");
+}
+
+TEST(StartingContents, ANewGameEmptiesShipAndBunkersButLeavesTheLandAndTheLog) {
   startFreshRun();
-  std::string inSectorOrder;
-  for (int n = 1; n <= kSectorCount; ++n) {
-    Bunker& bunker = thePlanet().sector(n).bunker();
-    bunker.markBuilt();
-    bunker.getCrew().add(kRaceMako, 0);
-    bunker.addFood(4);
-    inSectorOrder += std::string("Bunker ") + bunker.sectorLetter() + " is low on food.";
-  }
-  runDay();
-  std::string lowOnFood;
-  for (int i = 0; i < theMessageLog().count(); ++i) lowOnFood += theMessageLog().at(i)->text.view().substr(0, 24);
-  EXPECT_EQ(lowOnFood, inSectorOrder);
-  for (int n = 1; n <= kSectorCount; ++n) EXPECT_EQ(thePlanet().sector(n).bunker().getFood(), 3);
+  Mothership& ship = theMothership();
+  ship.bombs().add(kBombFlack, ship.cargoRoomLeft());
+  ship.eggs().add(kRacePovolnian, ship.cargoRoomLeft());
+  ship.aircraft().at(1).getCrew().add(kRaceMako, 0);
+  ship.addCapsules(-2);
+  ship.setWorkSchedule(0);
+  ship.setDestination(5);
+  Bunker& bunker = thePlanet().sector(5).bunker();
+  bunker.markBuilt();
+  bunker.getCrew().add(kRaceMako, 0);
+  bunker.getAircraft().add(kStealthFighter, kDockLimit, 5);
+  bunker.addFood(700);
+  thePlanet().subSector(9, 6).setLandType(kRubble);
+  theMessageLog().post("The last game's news", 3);
+  globals() = {77, 1, -4, true, true, true};
+
+  resetGame();
+
+  EXPECT_EQ(aboard(), "0312 11 11 11 11 11 11 11 11 11 11 11 10 10 10 10 10 10 10 10 10 "
+                      "60 61 60 61 60 40 40 41 40 40");
+  EXPECT_EQ(std::tuple(ship.aircraft().at(1).getCrew().getCount(), ship.advisors().size(),
+                       ship.bombs().count() + ship.eggs().count(), ship.readyCapsules(),
+                       ship.destinationSector(), ship.workSchedule()),
+            std::tuple(0, 9u, 0, 2, 0, 0));
+  EXPECT_EQ(std::tuple(bunker.isBuilt(), bunker.getCrew().getCount(), bunker.getAircraft().count(),
+                       bunker.getFood(), thePlanet().subSector(9, 6).landType(),
+                       theMessageLog().count()),
+            std::tuple(false, 0, 0, 0, kRubble, 1));
+  const GlobalValues& g = globals();
+  EXPECT_EQ(std::tie(g.day, g.cosmicCredits, g.freighterCountdown, g.gameOver, g.lowFoodWarned),
+            std::make_tuple(1, 5000, 30, false, true));
 }
 
 }  // namespace
