@@ -46,30 +46,28 @@ std::string endDay() {
 
 // One night from a new game's ship, changed, and what it brings.
 struct Night {
-  unsigned food = 1000;
+  unsigned food = 1000, foodAfter = 957;
   float morale = 100;
-  int schedule = 2, fuel = 150000, destination = 0;
+  int moraleAfter = 100, schedule = 2, fuel = 150000, destination = 0;
   const char* news = "";
   const char* screens = "";
-  int moraleAfter = 100;
-  unsigned foodAfter = 957;
 };
 
 TEST(Day, NewsAndEndingsAtTheThresholdsOfMoraleFuelAndFood) {
   const Night kNights[] = {
       // Morale news and the mutiny read the morale after the day's change.
-      {.morale = 9, .news = "Frequent ", .moraleAfter = 9},
-      {.morale = 10, .news = "Emerson ", .moraleAfter = 10},
-      {.morale = 11, .news = "Emerson ", .moraleAfter = 11},
-      {.morale = 19.9f, .news = "Emerson ", .moraleAfter = 19},
+      {.morale = 9, .moraleAfter = 9, .news = "Frequent "},
+      {.morale = 10, .moraleAfter = 10, .news = "Emerson "},
+      {.morale = 11, .moraleAfter = 11, .news = "Emerson "},
+      {.morale = 19.9f, .moraleAfter = 19, .news = "Emerson "},
       {.morale = 20, .moraleAfter = 20}, {.morale = 21, .moraleAfter = 21},
-      {.morale = 22, .schedule = 3, .news = "Emerson ", .moraleAfter = 19},
-      {.morale = 8, .schedule = 0, .news = "Emerson ", .moraleAfter = 13},
-      {.morale = 50, .schedule = 1, .moraleAfter = 51}, {.morale = 100, .schedule = 0},
-      {.morale = 50, .schedule = 4, .moraleAfter = 35}, {.morale = 98, .schedule = 0},
-      {.morale = 16, .schedule = 4, .news = "Frequent ", .moraleAfter = 1},
-      {.morale = 14, .schedule = 4, .news = "Frequent ", .screens = "M", .moraleAfter = 0},
-      {.morale = 0.9f, .news = "Frequent ", .screens = "M", .moraleAfter = 0},
+      {.morale = 22, .moraleAfter = 19, .schedule = 3, .news = "Emerson "},
+      {.morale = 8, .moraleAfter = 13, .schedule = 0, .news = "Emerson "},
+      {.morale = 50, .moraleAfter = 51, .schedule = 1}, {.morale = 100, .schedule = 0},
+      {.morale = 50, .moraleAfter = 35, .schedule = 4}, {.morale = 98, .schedule = 0},
+      {.morale = 16, .moraleAfter = 1, .schedule = 4, .news = "Frequent "},
+      {.morale = 14, .moraleAfter = 0, .schedule = 4, .news = "Frequent ", .screens = "M"},
+      {.morale = 0.9f, .moraleAfter = 0, .news = "Frequent ", .screens = "M"},
       // Fuel news and the empty tank read the tank after the ship has moved.
       {.fuel = 0, .news = "We ", .screens = "O"}, {.fuel = 1, .news = "We "},
       {.fuel = 9999, .news = "We "}, {.fuel = 10000, .news = "Were "},
@@ -77,8 +75,8 @@ TEST(Day, NewsAndEndingsAtTheThresholdsOfMoraleFuelAndFood) {
       {.fuel = 50001}, {.fuel = 59999, .destination = 1, .news = "Were "},
       {.fuel = 10000, .destination = 1, .news = "We ", .screens = "O"},
       // 33 crew, 9 advisors and the captain eat 43; the famine costs 15.
-      {.food = 42, .news = "Your ", .screens = "F", .moraleAfter = 85, .foodAfter = 0},
-      {.food = 43, .news = "Your ", .screens = "F", .moraleAfter = 85, .foodAfter = 0},
+      {.food = 42, .foodAfter = 0, .moraleAfter = 85, .news = "Your ", .screens = "F"},
+      {.food = 43, .foodAfter = 0, .moraleAfter = 85, .news = "Your ", .screens = "F"},
       {.food = 44, .foodAfter = 1},
   };
   for (const Night& n : kNights) {

@@ -10,6 +10,7 @@
 #include "game/planet/navigation.h"
 #include "game/planet/planet.h"
 #include "game/shell/day.h"
+#include "game/shell/endings.h"
 #include "game/shell/mothership.h"
 #include "game/shell/program.h"
 #include "game/shell/ship_map.h"
@@ -41,12 +42,10 @@ void staffBunker(int n, int food) {
   bunker.addFood(food);
 }
 void noEnemyLeft() {
-  for (int n = 1; n <= kSectorCount; ++n) {
-    for (int k = 0; k < kSubSectorCount; ++k) {
-      SubSector& s = thePlanet().subSector(n, k);
-      s.addPopulation(-static_cast<int>(s.population()));
-      s.addTroops(-static_cast<int>(s.troops()));
-    }
+  for (int i = 0; i < kSectorCount * kSubSectorCount; ++i) {
+    SubSector& s = thePlanet().subSector(1 + i / kSubSectorCount, i % kSubSectorCount);
+    s.addPopulation(-static_cast<int>(s.population()));
+    s.addTroops(-static_cast<int>(s.troops()));
   }
 }
 
@@ -122,6 +121,8 @@ const Scene kScenes[] = {
      [] { dusk(1, 30, 1000, 3, 150000, 3); }},
     {"the famine warned of before morale falls to 0", "@famine_warning x @ending_mutiny_eaten x",
      runDay, [] { dusk(1, 30, 0, 15); }},
+    {"the Ion Cannon drinks the last of the fuel", "@ending_cannon_drank_the_fuel x",
+     showCannonFuelEnding},
     {"three endings on one night",
      "@ending_out_of_fuel x @ending_mutiny_in_his_sleep x @ending_victory x", runDay,
      [] { dusk(1, 30, 1000, 0, 0); noEnemyLeft(); }},
