@@ -59,8 +59,8 @@ TEST(Day, NewsAndEndingsAtTheThresholdsOfMoraleFuelAndFood) {
       {.morale = 9, .moraleAfter = 9, .news = "Frequent "},
       {.morale = 10, .moraleAfter = 10, .news = "Emerson "},
       {.morale = 11, .moraleAfter = 11, .news = "Emerson "},
-      {.morale = 19.9f, .moraleAfter = 19, .news = "Emerson "},
-      {.morale = 20, .moraleAfter = 20}, {.morale = 21, .moraleAfter = 21},
+      {.morale = 19.9f, .moraleAfter = 19, .news = "Emerson "}, {.morale = 20, .moraleAfter = 20},
+      {.morale = 21, .moraleAfter = 21},
       {.morale = 22, .moraleAfter = 19, .schedule = 3, .news = "Emerson "},
       {.morale = 8, .moraleAfter = 13, .schedule = 0, .news = "Emerson "},
       {.morale = 50, .moraleAfter = 51, .schedule = 1}, {.morale = 100, .schedule = 0},
@@ -90,6 +90,7 @@ TEST(Day, NewsAndEndingsAtTheThresholdsOfMoraleFuelAndFood) {
     ship.setDestination(n.destination);
     EXPECT_EQ(endDay(), n.news);
     EXPECT_EQ(screens, n.screens);
+    EXPECT_EQ(isGameOver(), std::string(n.screens).find_first_of("OMV") != std::string::npos);
     EXPECT_EQ(ship.moraleWhole(), n.moraleAfter);
     EXPECT_EQ(ship.food(), n.foodAfter);
   }

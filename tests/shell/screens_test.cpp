@@ -21,10 +21,7 @@
 namespace {
 
 template <int deck>
-void mapFrom() {
-  drawShipMap();
-  runShipMap(deck);
-}
+void mapFrom() { drawShipMap(); runShipMap(deck); }
 // The calendar and the ship at the end of a day.
 void dusk(int day, int countdown, unsigned food = 1000, float morale = 100, int fuel = 150000,
           int schedule = 2) {
@@ -63,8 +60,11 @@ const Scene kScenes[] = {
     {"the sweep at the label", "Idle:8399 @title_pass_8400_sweep_at_the_label"},
     {"the sweep going back", "Idle:8999 @title_pass_9000_sweep_going_back"},
     {"the sweep turning at the outer end", "Idle:16799 @title_pass_16800_sweep_turned"},
-    {"the sweep on LOAD  GAME", "Down Idle:598 @title_pass_600_on_load_game"},
-    {"the sweep on EXIT, after it was half way", "Idle:3000 Up Idle:1798 @title_pass_4800_on_exit"},
+    // On every entry, back from its label; on EXIT after a restart half way.
+    {"LOAD  GAME's sweep", "Down Idle:8398 @title_pass_8400_load_game_sweep_going_back"},
+    {"GAME OPTIONS' sweep", "Down Down Idle:7797 @title_pass_7800_game_options_sweep_going_back"},
+    {"VIEW CREDITS' sweep", "Up Up Idle:7797 @title_pass_7800_view_credits_sweep_going_back"},
+    {"EXIT's sweep", "Idle:3000 Up Idle:10198 @title_pass_13200_exit_sweep_going_back"},
     // A lost game: the shielded ship runs dry on its way down, the title
     // comes back without its dotted frame, and the lights draw it back; a
     // second game starts from a new ship, its shield down.
@@ -117,10 +117,13 @@ const Scene kScenes[] = {
     {"one enemy left: the game goes on", "Enter Down Enter y @ship_map_day_2",
      mapFrom<kDeckLibrary>, [] { noEnemyLeft(); thePlanet().subSector(24, 15).addTroops(1); }},
     // The endings, each in its turn on the night whose tests hold.
-    {"mutiny with food left", "@ending_mutiny_in_his_sleep x", runDay,
-     [] { dusk(1, 30, 1000, 3, 150000, 3); }},
-    {"the famine warned of before morale falls to 0", "@famine_warning x @ending_mutiny_eaten x",
-     runDay, [] { dusk(1, 30, 0, 15); }},
+    {"mutiny with food left", "Enter Right Down Enter Down Enter y @ending_mutiny_in_his_sleep x "
+     "@title_after_a_lost_game", nullptr, [] { dusk(1, 30, 1000, 3, 150000, 3); }},
+    {"the famine warned of before morale falls to 0", "Enter Right Down Enter Down Enter y "
+     "@famine_warning x @ending_mutiny_eaten x @title_after_a_lost_game", nullptr,
+     [] { dusk(1, 30, 0, 15); }},
+    {"victory", "Enter Right Down Enter Down Enter y @ending_victory x @title_after_a_lost_game",
+     nullptr, noEnemyLeft},
     {"the Ion Cannon drinks the last of the fuel", "@ending_cannon_drank_the_fuel x",
      showCannonFuelEnding},
     {"three endings on one night",
@@ -133,18 +136,13 @@ TEST(Screens, Shell) { playScenes("shell", kScenes); }
 // What the goldens cannot show: keys typed in a burst, the room's flash
 // frame by frame, and the program's way out.
 
-TEST(TitleMenu, ABurstOfKeysMovesTheSelectionOnce) {
+TEST(TitleMenu, ABurstOfKeysMovesOnceAndExitEndsTheProgramWithThePromptOnTheLastRow) {
   startFreshRun();
-  scripted::addKeys({KeyEvent::arrow(kKeyDown), KeyEvent::arrow(kKeyDown)});
-  scripted::addCall([] { EXPECT_TRUE(screenMatches("shell/title_load_game")); });
-  scripted::run(runTitleMenu);
-}
-
-TEST(TitleMenu, ExitEndsTheProgramWithThePromptOnTheLastRow) {
-  startFreshRun();
-  scripted::addKeys("Up Enter");
-  EXPECT_EQ(runProgram(), 0);
-  EXPECT_EQ(Console::screen().row * 100 + Console::screen().column, 2400);
+  scripted::addKeys({KeyEvent::arrow(kKeyUp), KeyEvent::arrow(kKeyUp)});  // once: to EXIT
+  scripted::addKeys("Enter");
+  int code = -1;
+  EXPECT_FALSE(scripted::run([&] { code = runProgram(); }));
+  EXPECT_EQ(code * 10000 + Console::screen().row * 100 + Console::screen().column, 2400);
 }
 
 TEST(ShipMap, EnterFlashesTheRoomThreeTimesAndAHalf) {
