@@ -13,9 +13,7 @@
 namespace {
 
 void post(int count) {
-  for (int i = 1; i <= count; ++i) {
-    theMessageLog().post("News number " + std::to_string(i) + " of the day.", 3);
-  }
+  for (int i = 1; i <= count; ++i) theMessageLog().post("News " + std::to_string(i) + ".", 3);
 }
 
 const Scene kScenes[] = {
@@ -59,7 +57,8 @@ const Scene kScenes[] = {
        log.post("The Super Freighter has arrived in orbit!", 5);
        log.post("Bunker in sector C has 4 days until it's built.", 2);
        log.post("Bunker F reports that its crew have built a well, a farm and a new lab.", 4);
-       log.post("The Super Freighter will arrive in orbit in 3 days!", 3);
+       log.post("Saucer located in sector C found a Fleepion. It has been added to the local "
+                "crew, who say it is the second one this week.", 3);
      }},
     {"twelve messages: two full pages", "Space Space @report_twelve_messages_page_2 Esc",
      runMorningReport, [] { post(12); }},

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 #include <tuple>
 
@@ -16,7 +15,6 @@
 #include "game/shell/mothership.h"
 #include "game/shell/starting_contents.h"
 #include "tests/support/fresh_game.h"
-#include "tests/support/log_text.h"
 
 namespace {
 
@@ -37,9 +35,11 @@ std::string endDay() {
     return true;
   });
   scripted::run(runDay);
-  std::istringstream lines(logLines());
   std::string words;
-  for (std::string line; std::getline(lines, line);) words += line.substr(0, line.find(' ')) + " ";
+  for (int i = 0; i < theMessageLog().count(); ++i) {
+    const std::string_view text = theMessageLog().at(i)->text.view();
+    words += std::string(text.substr(0, text.find(' '))) + " ";
+  }
   theMessageLog().clear();
   return words;
 }

@@ -31,10 +31,10 @@ void dusk(int day, int countdown, unsigned food = 1000, float morale = 100, int 
   theMothership().setFuel(fuel);
   theMothership().setWorkSchedule(schedule);
 }
-// A built bunker in sector n with one crew member and its food.
-void staffBunker(int n, int food) {
+// A bunker in sector n, built or not, with one crew member and its food.
+void staffBunker(int n, int food, bool built = true) {
   Bunker& bunker = thePlanet().sector(n).bunker();
-  bunker.markBuilt();
+  if (built) bunker.markBuilt();
   bunker.getCrew().add(kRaceMako, 0);
   bunker.addFood(food);
 }
@@ -55,7 +55,6 @@ const Scene kScenes[] = {
       Up Esc @title_game_options)"},
     // A runner steps every 30 passes, the sweep every 600: out along the
     // bars to the label, back, and out again.
-    {"the first running light", "Idle:29 @title_pass_30"},
     {"the first sweep", "Idle:599 @title_pass_600"},
     {"the sweep at the label", "Idle:8399 @title_pass_8400_sweep_at_the_label"},
     {"the sweep going back", "Idle:8999 @title_pass_9000_sweep_going_back"},
@@ -108,8 +107,12 @@ const Scene kScenes[] = {
      mapFrom<kDeckLibrary>, [] { dusk(37, -6); }},
     {"a night of the gravest news", "Enter Down Enter y @famine_warning x @report_gravest_news",
      mapFrom<kDeckLibrary>, [] { dusk(1, 1, 0, 20, 5000); staffBunker(1, 0); }},
-    {"a night of news that needs action", "Enter Down Enter y @report_news_for_action",
-     mapFrom<kDeckLibrary>, [] { dusk(1, -5, 1000, 15, 20000); staffBunker(2, 4); }},
+    {"a night of news of every step",
+     "Enter Down Enter y @report_news_of_every_step Space @report_news_of_every_step_page_2",
+     mapFrom<kDeckLibrary>, [] { dusk(1, -5, 1000, 15, 20000); staffBunker(2, 4);
+                                 staffBunker(3, 100, false);
+                                 theMothership().aircraft().at(0).setMission(kMissionScouting);
+                                 theMothership().aircraft().at(0).setDestination(3); }},
     {"every bunker's meal, in sector order",
      "Enter Down Enter y @report_bunkers_1 Space @report_bunkers_2 Space @report_bunkers_3 Space "
      "@report_bunkers_4",
