@@ -66,9 +66,9 @@ const Scene kScenes[] = {
 
 TEST(Screens, Messages) { playScenes("messages", kScenes); }
 
-// The hidden keys: what each brings aboard, and an add that does not fit
-// dropped without a word. The stores they fill show in a golden.
-TEST(LibraryHiddenKeys, EachKeyBringsItsThingAboardWhileThereIsRoom) {
+// The hidden keys: what each brings aboard. The stores they fill show in a
+// golden; what does not fit is the lists' own rule.
+TEST(LibraryHiddenKeys, EachKeyBringsItsThingAboard) {
   startFreshRun();
   Mothership& ship = theMothership();
   ship.aircraft().clear();
@@ -82,16 +82,6 @@ TEST(LibraryHiddenKeys, EachKeyBringsItsThingAboardWhileThereIsRoom) {
                        ship.crew().at(0).getSex()),
             std::tuple(3, 1, kRacePovolnian, 0));
 
-  // 57 more barges leave room for one fighter exactly, and 248 more crew
-  // room for one.
-  ship.addCapsules(-3);
-  for (int i = 0; i < 57; ++i) ship.aircraft().add(kCargoBarge, ship.dockRoomLeft(), 0);
-  for (int i = 0; i < 248; ++i) ship.crew().add(kRaceMako, 1);
-  scripted::addKeys("5 6 8 7 7 5 v v");
-  scripted::run(runLibraryDeck);
-  EXPECT_EQ(std::tuple(ship.aircraft().count(), ship.dockRoomLeft(), ship.crew().getCount(),
-                       ship.crew().at(ship.crew().getCount() - 1).getRace()),
-            std::tuple(62, 0, 250, kRacePovolnian));
 }
 
 }  // namespace

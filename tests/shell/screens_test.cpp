@@ -38,6 +38,13 @@ void staffBunker(int n, int food, bool built = true) {
   bunker.getCrew().add(kRaceMako, 0);
   bunker.addFood(food);
 }
+// The ship's craft i on a mission over sector V, with its crew.
+void onMission(int i, int mission, int crew) {
+  Aircraft& craft = theMothership().aircraft().at(i);
+  craft.setMission(mission);
+  craft.setDestination(3);
+  for (int c = 0; c < crew; ++c) craft.getCrew().add(kRaceMako, 0);
+}
 void noEnemyLeft() {
   for (int i = 0; i < kSectorCount * kSubSectorCount; ++i) {
     SubSector& s = thePlanet().subSector(1 + i / kSubSectorCount, i % kSubSectorCount);
@@ -111,8 +118,8 @@ const Scene kScenes[] = {
      "Enter Down Enter y @report_news_of_every_step Space @report_news_of_every_step_page_2",
      mapFrom<kDeckLibrary>, [] { dusk(1, -5, 1000, 15, 20000); staffBunker(2, 4);
                                  staffBunker(3, 100, false);
-                                 theMothership().aircraft().at(0).setMission(kMissionScouting);
-                                 theMothership().aircraft().at(0).setDestination(3); }},
+                                 onMission(0, kMissionScouting, 0);
+                                 onMission(2, kMissionAttacking, 2); }},
     {"every bunker's meal, in sector order",
      "Enter Down Enter y @report_bunkers_1 Space @report_bunkers_2 Space @report_bunkers_3 Space "
      "@report_bunkers_4",
