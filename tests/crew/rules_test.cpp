@@ -6,6 +6,7 @@
 
 #include "game/console/random.h"
 #include "game/console/scripted.h"
+#include "game/crew/assign_crew_jobs.h"
 #include "game/crew/living_quarters.h"
 #include "game/planet/planet.h"
 #include "game/shell/mothership.h"
@@ -57,18 +58,12 @@ TEST(NameGenerator, EachRuleTakesItsDrawsInOrder) {
   }
 }
 
-TEST(CrewList, TheShipTakes250AndABunker50) {
+TEST(CrewList, ABunkerTakes50) {
   startFreshRun();
-  for (CrewList* list : {&theMothership().crew(), &thePlanet().sector(1).bunker().getCrew()}) {
-    const int capacity = list == &theMothership().crew() ? 250 : 50;
-    while (list->getCount() < capacity - 1) list->add(kRaceBlob, 0);
-    EXPECT_FALSE(list->isFull());
-    EXPECT_TRUE(list->addFront(list->at(0)));
-    EXPECT_TRUE(list->isFull());
-    EXPECT_FALSE(list->add(kRaceBlob, 0));
-    EXPECT_FALSE(list->addFront(list->at(0)));
-    EXPECT_EQ(list->getCount(), capacity);
+  CrewList& crew = thePlanet().sector(1).bunker().getCrew();
+  while (crew.add(kRaceBlob, 0)) {
   }
+  EXPECT_EQ(crew.getCount(), 50);
 }
 
 // A craft lands all but its first two crew, in their order, while the
@@ -85,10 +80,8 @@ TEST(CrewList, TransferLandsAllButTheFirstTwo) {
   };
   for (const auto& c : cases) {
     CrewList craft(10), ground(c.room);
-    for (int i = 0; i < c.count; ++i) {
-      craft.add(kRaceBlob, 0);
-      craft.at(i).setJob(i);
-    }
+    while (craft.getCount() < c.count) craft.add(kRaceBlob, 0);
+    for (int i = 0; i < c.count; ++i) craft.at(i).setJob(i);
     craft.transferTo(ground);
     EXPECT_EQ(jobs(craft) + "|" + jobs(ground), std::string(c.left) + "|" + c.landed) << c.count;
   }
@@ -101,7 +94,7 @@ TEST(Morale, EachScheduleAtTheEnds) {
     int schedule;
     std::uint32_t food;
     float before, after;
-  } cases[] = {{0, 1, 0, 5},    {0, 1, 96, 100}, {0, 1, 100, 100}, {1, 1, 0, 1},
+  } cases[] = {{0, 1, 0, 5},     {0, 1, 96, 100}, {0, 1, 100, 100}, {1, 1, 0, 1},
                {1, 1, 100, 100}, {2, 1, 0, 0},    {2, 1, 100, 100}, {3, 1, 0, 0},
                {3, 1, 2, 0},     {3, 1, 100, 97}, {4, 1, 0, 0},     {4, 1, 16, 1},
                {4, 1, 100, 85},  {0, 0, 100, 85}, {0, 0, 15, 0},    {4, 0, 100, 85}};
@@ -120,12 +113,40 @@ TEST(Morale, EachScheduleAtTheEnds) {
 TEST(WorkSchedules, ABurstOfKeysActsOnce) {
   startFreshRun();
   const KeyEvent down = scripted::keyNamed("Down"), enter = scripted::keyNamed("Enter");
+  KeyEvent release = enter;
+  release.keyDown = false;
   scripted::addKeys("Down Down Enter");
+  scripted::addKey(release);  // a release is no key
   scripted::addKeys(std::vector<KeyEvent>{down, down, down});
   scripted::addKeys(std::vector<KeyEvent>{enter, down});
   scripted::addCall([] { EXPECT_TRUE(screenMatches("crew/deck_schedules_lit_after_schedules")); });
   scripted::run(runLivingQuarters);
   EXPECT_EQ(theMothership().workSchedule(), 3);
+}
+
+// A member carried sideways takes a place in the roster that other screens
+// show: the head from the first row of an unscrolled list, just before the
+// member on its row, or the end below the target's last row.
+TEST(AssignCrewJobs, ACarriedMemberTakesItsPlaceInTheRoster) {
+  const struct {
+    const char* keys;
+    int from, to;
+  } cases[] = {{"Right Enter Right", 25, 0},
+               {"Enter Left", 0, 0},
+               {"Down Enter Left", 1, 20},
+               {"Right Down Down Enter Left", 27, 2},
+               {"Down Down Down Down Down Down Down Down "
+                "Down Enter Right",
+                9, 32}};
+  for (const auto& c : cases) {
+    startFreshRun();
+    const CrewMember* me = &theMothership().crew().at(c.from);
+    scripted::addKeys(c.keys);
+    scripted::run(assignCrewJobs);
+    int at = 0;
+    while (&theMothership().crew().at(at) != me) ++at;
+    EXPECT_EQ(at, c.to) << c.keys;
+  }
 }
 
 }  // namespace

@@ -12,6 +12,18 @@
 namespace {
 
 CrewList& crew() { return theMothership().crew(); }
+void party() {
+  theMothership().setWorkSchedule(0);
+  theMothership().setMorale(0);
+}
+void oneMember() {
+  crew().clear();
+  crew().add(kRacePovolnian, 1);
+}
+void fullRoster() {
+  crew().clear();
+  while (crew().add(kRacePovolnian, 0)) continue;
+}
 
 const Scene kScenes[] = {
     {"each button lit, Auto Assign doing nothing, and the way back from each screen",
@@ -21,10 +33,7 @@ const Scene kScenes[] = {
      "@deck_schedules_lit_after_schedules Up Up Enter Esc @deck_assign_lit_after_jobs",
      runLivingQuarters},
     {"no crew aboard", "Enter @deck_no_crew", runLivingQuarters, [] { crew().clear(); }},
-    {"a party whatever the morale", "Up Up Enter @coffee_party", runLivingQuarters, [] {
-       theMothership().setWorkSchedule(0);
-       theMothership().setMorale(0);
-     }},
+    {"a party whatever the morale", "Up Up Enter @coffee_party", runLivingQuarters, party},
     {"browsing: the biography, a scrolled list, each list in focus",
      "Enter @jobs_first_frame Down @jobs_bio_of_a_researcher PgDn @jobs_research_scrolled "
      "Down Down @jobs_bio_further_down Right @jobs_maintenance_in_focus Right "
@@ -47,17 +56,11 @@ const Scene kScenes[] = {
     {"a lone member carried through all three lists",
      "Enter Enter Right @jobs_lone_member_in_maintenance Right @jobs_lone_member_in_other "
      "Esc Right Up @jobs_lone_member_put_down_in_other",
-     runLivingQuarters, [] {
-       crew().clear();
-       crew().add(kRacePovolnian, 1);
-     }},
-    {"a full roster, all but 13 in research, on its last page",
+     runLivingQuarters, oneMember},
+    {"a full roster, all of it in research, on its last page",
      "Enter PgDn PgDn PgDn PgDn PgDn PgDn PgDn PgDn PgDn PgDn PgDn PgDn PgDn PgDn PgDn PgDn "
      "PgDn @jobs_full_roster_last_page",
-     runLivingQuarters, [] {
-       while (crew().add(kRacePovolnian, 0)) {
-       }
-     }},
+     runLivingQuarters, fullRoster},
     {"each schedule under the cursor, Escape taking it",
      "Down Down Enter @schedules_plan_925 Down @schedules_all_work Down @schedules_nazi Down "
      "@schedules_party Down @schedules_slacker Up Up Esc Enter @schedules_nazi",
@@ -71,11 +74,11 @@ TEST(Screens, EmersonByMorale) {
   const struct {
     float morale;
     const char* golden;
-  } cases[] = {{100, "91_to_100"}, {91, "91_to_100"}, {90, "81_to_90"}, {81, "81_to_90"},
-               {80, "71_to_80"},   {71, "71_to_80"},  {70, "61_to_70"}, {61, "61_to_70"},
-               {60, "51_to_60"},   {51, "51_to_60"},  {50, "41_to_50"}, {41, "41_to_50"},
-               {40, "31_to_40"},   {31, "31_to_40"},  {30, "21_to_30"}, {21, "21_to_30"},
-               {20, "11_to_20"},   {11, "11_to_20"},  {10, "1_to_10"},  {1.9f, "1_to_10"},
+  } cases[] = {{100, "91_to_100"},   {91, "91_to_100"}, {90, "81_to_90"}, {81, "81_to_90"},
+               {80, "71_to_80"},     {71, "71_to_80"},  {70, "61_to_70"}, {61, "61_to_70"},
+               {60, "51_to_60"},     {51, "51_to_60"},  {50, "41_to_50"}, {41, "41_to_50"},
+               {40, "31_to_40"},     {31, "31_to_40"},  {30, "21_to_30"}, {21, "21_to_30"},
+               {20, "11_to_20"},     {11, "11_to_20"},  {10, "1_to_10"},  {1.9f, "1_to_10"},
                {0.9f, "silent_at_0"}};
   for (const auto& c : cases) {
     startFreshRun();

@@ -8,19 +8,21 @@
 
 namespace {
 
-void finish(const char* code) {
-  TechItem& item = *theTechTree().find(code);
+void finish(TechItem& item) {
   item.setProgress(100.0);
   theTechTree().finishItem(item);
 }
 void finishEverything() {
-  while (theTechTree().researchableCount() > 0) {
-    finish(std::string(theTechTree().researchableItems().front()->getCode()).c_str());
-  }
+  while (theTechTree().researchableCount() > 0) finish(*theTechTree().researchableItems().front());
 }
 void noResearchers() {
   CrewList& crew = theMothership().crew();
   for (int i = 0; i < crew.getCount(); ++i) crew.at(i).setJob(7);
+}
+
+void neither() {
+  noResearchers();
+  finishEverything();
 }
 
 const Scene kScenes[] = {
@@ -29,16 +31,16 @@ const Scene kScenes[] = {
      "Down @deck_biology_lit Enter @deck_biology_lit Down @deck_return_lit Down "
      "@deck_assignments_lit Down Enter @deck_completed_lit_after_its_enter",
      runResearchStation},
-    {"the panel without researchers", "@deck_panel_without_researchers Enter "
-     "@deck_panel_without_researchers_after_enter", runResearchStation, noResearchers},
-    {"the panel with nothing left to research", "@deck_panel_with_nothing_to_research Enter "
-     "@deck_panel_with_nothing_to_research_after_enter", runResearchStation, finishEverything},
-    {"the panel with neither", "@deck_panel_with_neither", runResearchStation, [] {
-       noResearchers();
-       finishEverything();
-     }},
-    {"shares given, moved and freed, an item done, and back on the deck",
-     "Enter @assignments_first_frame Right Right Right Right Right Right Right Right Right Right "
+    {"the panel without researchers",
+     "@deck_panel_without_researchers Enter @deck_panel_without_researchers_after_enter",
+     runResearchStation, noResearchers},
+    {"the panel with nothing left to research",
+     "@deck_panel_with_nothing_to_research Enter @deck_panel_with_nothing_to_research_after_enter",
+     runResearchStation, finishEverything},
+    {"the panel with neither", "@deck_panel_with_neither", runResearchStation, neither},
+    {"shares kept at 0, given, moved and freed, an item done, and back on the deck",
+     "Enter Left @assignments_first_frame Right Right Right Right Right Right Right Right Right "
+     "Right "
      "@assignments_a1_half_share Right Right Right Right Right Right Right Right Right Right Right "
      "@assignments_a1_whole_share Down Right @assignments_b1_none_left_to_share Up Left Down "
      "Right @assignments_b1_five_percent Enter @assignments_b1_done_b2_b6_open Right "
@@ -48,11 +50,11 @@ const Scene kScenes[] = {
      "Down Down Down Down Down Down Down Down Down Down Down Down Down Down "
      "@assignments_fifteenth_of_sixteen Down @assignments_scrolled_to_the_sixteenth PgUp "
      "@assignments_page_up_from_the_sixteenth",
-     researchAssignments, [] {
+     researchAssignments,
+     [] {
        for (const char* code :
-            {"B1", "B2", "B3", "B4", "B7", "D1", "D2", "D6", "D7", "D8", "D9", "F1"}) {
-         finish(code);
-       }
+            {"B1", "B2", "B3", "B4", "B7", "D1", "D2", "D6", "D7", "D8", "D9", "F1"})
+         finish(*theTechTree().find(code));
        theTechTree().researchableItems().back()->changePercentOfCrew(10);
      }},
     {"nothing left to research", "@assignments_empty Enter Right Left Down @assignments_empty",
