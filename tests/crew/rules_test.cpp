@@ -108,18 +108,23 @@ TEST(Morale, EachScheduleAtTheEnds) {
   }
 }
 
-// A blocking screen: of keys typed ahead, one acts and the rest are
-// dropped, also behind the Enter that leaves it.
-TEST(WorkSchedules, ABurstOfKeysActsOnce) {
+// The schedule screen blocks: of keys typed ahead, one acts and the rest
+// are dropped, also behind the Enter that leaves it. A key's release is no
+// key there, nor to a member picked up on the job screen.
+TEST(LivingQuarters, KeysTypedAheadAndReleases) {
   startFreshRun();
   const KeyEvent down = scripted::keyNamed("Down"), enter = scripted::keyNamed("Enter");
   KeyEvent release = enter;
   release.keyDown = false;
   scripted::addKeys("Down Down Enter");
-  scripted::addKey(release);  // a release is no key
+  scripted::addKey(release);
   scripted::addKeys(std::vector<KeyEvent>{down, down, down});
   scripted::addKeys(std::vector<KeyEvent>{enter, down});
   scripted::addCall([] { EXPECT_TRUE(screenMatches("crew/deck_schedules_lit_after_schedules")); });
+  scripted::addKeys("Up Up Enter Enter");
+  scripted::addKey(release);
+  scripted::addKeys("Down");
+  scripted::addCall([] { EXPECT_TRUE(screenMatches("crew/jobs_carried_down_past_a_release")); });
   scripted::run(runLivingQuarters);
   EXPECT_EQ(theMothership().workSchedule(), 3);
 }
