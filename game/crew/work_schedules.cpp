@@ -33,7 +33,8 @@ void chooseWorkSchedule(int cursor) {
   drawFrame(kDeckFrameColour, true);
   Console::putText("SELECT A WORK RATE", kColumn, 3, kTextColour);
   drawChoices(cursor);
-  // A blocking screen: one key acts, and what was typed ahead is dropped.
+  // A blocking screen: one key acts, and what was typed ahead is dropped
+  // (after the last key, by the deck that called it).
   for (;;) {
     const KeyEvent key = Console::readKey();
     if (key.isKey && key.keyDown) {
@@ -46,7 +47,6 @@ void chooseWorkSchedule(int cursor) {
       } else if (key.virtualKey == kKeyEnter || key.virtualKey == kKeyEscape) {
         // Escape is no cancel: the schedule under the cursor is taken.
         theMothership().setWorkSchedule(cursor - 1);
-        Console::flushKeys();
         return;
       }
     }
