@@ -15,9 +15,10 @@
 
 namespace {
 
-// Two names in a row from a seeded generator: a rule that draws once too
-// often or too rarely shows in the second name, and each seed is one where
-// taking a rule's draws in another order gives other names.
+// Two names in a row from a seeded generator, for each race that comes
+// aboard in play: a rule that draws once too often or too rarely shows in
+// the second name, and each seed is one where taking a rule's draws in
+// another order gives other names.
 TEST(NameGenerator, EachRuleTakesItsDrawsInOrder) {
   const struct {
     int race, sex;
@@ -28,25 +29,12 @@ TEST(NameGenerator, EachRuleTakesItsDrawsInOrder) {
       {kRacePovolnian, 0, 2, "Atractus II|Hoplocercidae"},
       {kRacePovolnian, 1, 24, "Dr. Ameiva|Drepanoides"},
       {kRacePovolnian, 0, 6, "Tantilla|Oxybelis Sr."},
-      {kRaceGrekkp, 0, 1, "Acadious|Edistineus"},
-      {kRaceGrekkp, 1, 1, "Achillesa|Edena"},
       {kRaceMako, 0, 1, "Ongislav|Bamakh"},
       {kRaceUberfleck, 1, 1, "Margar|Rudtav"},
-      {kRaceWootWoot, 0, 1, "=7&&L|1OETB"},
-      {kRaceWootWoot, 0, 2, "R-94|X-652"},
-      {kRaceWootWoot, 0, 40, "-%Y|2OUD"},
       {kRaceMududu, 0, 1, "Hiali|Niadu"},
-      {kRaceOblivion, 0, 1, "Vic-Jurgen|Hudaus"},
-      {kRaceDeorian, 0, 1, "Doipaku|Nagakuro"},
-      {kRaceHampster, 0, 1, "Rin-Tin-Tin |Sage "},
-      {kRaceIvinian, 0, 1, "Aslet|Peoer"},
       {kRaceHuman, 0, 14, "Dale|I.P. Freely"},
       {kRaceHuman, 1, 14, "Alice|I.P. Freely"},
-      {kRaceProbe, 0, 125, "Ivana Tinkle|Lewis"},
-      {kRaceClucktillian, 0, 1, "Clucktillian|Clucktillian"},
-      {kRaceBlob, 1, 1, "Blob|Blob"},
-      {kRaceNone, 0, 1, "BAD|BAD"},
-      {15, 0, 1, "BAD|BAD"},
+      {kRaceHuman, 0, 125, "Ivana Tinkle|Lewis"},
   };
   for (const auto& c : cases) {
     seedRandom(c.seed);

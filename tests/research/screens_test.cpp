@@ -20,6 +20,11 @@ void noResearchers() {
   for (int i = 0; i < crew.getCount(); ++i) crew.at(i).setJob(7);
 }
 
+void oneResearcherOneItem() {
+  noResearchers();
+  theMothership().crew().at(0).setJob(kJobResearch);
+  while (theTechTree().researchableCount() > 1) finish(*theTechTree().researchableItems().front());
+}
 void neither() {
   noResearchers();
   finishEverything();
@@ -37,6 +42,9 @@ const Scene kScenes[] = {
     {"the panel with nothing left to research",
      "@deck_panel_with_nothing_to_research Enter @deck_panel_with_nothing_to_research_after_enter",
      runResearchStation, finishEverything},
+    {"one researcher and one item left",
+     "@deck_panel_one_researcher_one_item Enter @assignments_one_item_left", runResearchStation,
+     oneResearcherOneItem},
     {"the panel with neither", "@deck_panel_with_neither", runResearchStation, neither},
     {"shares kept at 0, given, moved and freed, an item done, and back on the deck",
      "Enter Left @assignments_first_frame Right Right Right Right Right Right Right Right Right "
