@@ -45,6 +45,12 @@ const Scene kScenes[] = {
      "@jobs_carried_to_the_top Right @jobs_carried_to_the_head_of_other Right "
      "@jobs_carried_to_the_head_of_research Enter @jobs_put_down",
      runLivingQuarters},
+    {"carried down through the foot of the box to the end of the list, and up through its top",
+     "Enter Enter Down Down Down Down Down Down Down Down Down Down Down Down Down "
+     "@jobs_carried_to_the_foot_of_the_box Down Down Down Down Down Down "
+     "@jobs_carried_to_the_end_of_the_list Up Up Up Up Up Up Up Up Up Up Up Up Up Up "
+     "@jobs_carried_up_through_the_top_of_the_box",
+     runLivingQuarters},
     {"carried onto a middle row, and below the last row",
      "Enter Right Down Down Enter Left @jobs_carried_onto_a_middle_row Enter Down Down Down "
      "Down Down Down Down Enter Right @jobs_carried_below_the_last_row",
