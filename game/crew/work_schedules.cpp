@@ -33,19 +33,23 @@ void chooseWorkSchedule(int cursor) {
   drawFrame(kDeckFrameColour, true);
   Console::putText("SELECT A WORK RATE", kColumn, 3, kTextColour);
   drawChoices(cursor);
+  // A blocking screen: one key acts, and what was typed ahead is dropped
+  // (after the last key, by the deck that called it).
   for (;;) {
     const KeyEvent key = Console::readKey();
-    if (!key.isKey || !key.keyDown) continue;
-    if (key.virtualKey == kKeyUp) {
-      cursor = cursor == 1 ? kScheduleCount : cursor - 1;
-      drawChoices(cursor);
-    } else if (key.virtualKey == kKeyDown) {
-      cursor = cursor == kScheduleCount ? 1 : cursor + 1;
-      drawChoices(cursor);
-    } else if (key.virtualKey == kKeyEnter || key.virtualKey == kKeyEscape) {
-      // Escape is no cancel: the schedule under the cursor is taken.
-      theMothership().setWorkSchedule(cursor - 1);
-      return;
+    if (key.isKey && key.keyDown) {
+      if (key.virtualKey == kKeyUp) {
+        cursor = cursor == 1 ? kScheduleCount : cursor - 1;
+        drawChoices(cursor);
+      } else if (key.virtualKey == kKeyDown) {
+        cursor = cursor == kScheduleCount ? 1 : cursor + 1;
+        drawChoices(cursor);
+      } else if (key.virtualKey == kKeyEnter || key.virtualKey == kKeyEscape) {
+        // Escape is no cancel: the schedule under the cursor is taken.
+        theMothership().setWorkSchedule(cursor - 1);
+        return;
+      }
     }
+    Console::flushKeys();
   }
 }
