@@ -73,9 +73,10 @@ const Scene kScenes[] = {
      runCargoDeck, [] { fresh(); }},
     {"burnt, No", "Up Up Enter Enter Esc @incinerator_question n @deck_back_from_incinerator",
      runCargoDeck, [] { fresh(); }},
-    {"every item across, and back",
+    {"every item across, a list left and found as it was, and back",
      "Up Up Enter @incinerator_three_items Down Down Enter @incinerator_last_row_moved Enter "
-     "Enter @incinerator_all_burning Enter Enter Enter @incinerator_all_back Esc",
+     "Enter @incinerator_all_burning Down Down Enter Left Right @incinerator_burn_list_kept_its_row "
+     "Enter Enter @incinerator_all_back Esc",
      runCargoDeck, [] {
        fresh("Golden Idol\n");
        ship().crew().clear();

@@ -54,6 +54,25 @@ TEST(Keys, AWaitFlushesFirstAndEndsOnAKeyDown) {
   EXPECT_EQ(Console::readKey().ascii, 27) << "the wait ended on the y";
 }
 
+// Whatever waits, for a key or for time, first brings the screen up to date.
+TEST(Keys, EveryWaitShowsTheScreenFirst) {
+  scripted::reset();
+  std::vector<bool> shown;
+  auto look = [&] { shown.push_back(!Console::screen().changed); };
+  scripted::watchSleeps([&](int) { look(); });
+  scripted::addCall(look);
+  scripted::addKeys("x");
+  Console::putText("a", 0, 0, 14);
+  Console::readKey();
+  scripted::addCall(look);
+  scripted::addKeys("x");
+  Console::putText("b", 0, 0, 14);
+  Console::keyWaiting();
+  Console::putText("c", 0, 0, 14);
+  Console::sleep(10);
+  EXPECT_EQ(shown, (std::vector<bool>{true, true, true}));
+}
+
 // A burst of keys at once: the menus and the question act on the first and
 // drop the rest, but the cargo deck keeps them.
 TEST(Keys, ABurstActsOnceButTheCargoDeckKeepsKeysTypedAhead) {

@@ -70,8 +70,8 @@ const Scene kScenes[] = {
      "Down Down Down Down Down Down Down Down Down Down Down Down @long_list_at_the_box_bottom "
      "Down @long_list_scrolled_by_one PgDn @long_list_paged_down PgDn @long_list_last_page "
      "Down Down Down Down Down Down Down Down Down Down Down Down @long_list_last_row "
-     "Down @long_list_last_row PgDn @long_list_last_page PgUp @long_list_paged_up PgUp "
-     "@long_list Down Down Enter @long_list_enter_on_row_two Esc @long_list_escaped",
+     "Down @long_list_last_row PgDn @long_list_last_page PgUp @long_list_paged_up Down Down "
+     "PgDn @long_list_last_page PgUp @long_list_paged_up PgUp @long_list Down Down Enter @long_list_enter_on_row_two Esc @long_list_escaped",
      listScreen, [] { list = {30, false, false, {}}; }},
     {"a short list", "@short_list Left Right PgUp @short_list PgDn @short_list_last_row "
      "PgUp @short_list Down Down Down Down Down @short_list_last_row",

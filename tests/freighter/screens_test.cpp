@@ -32,7 +32,8 @@ const Scene kScenes[] = {
 
 TEST(Screens, Freighter) { playScenes("freighter", kScenes); }
 
-// A knock: red, yellow, three times, then red, 80 ms each.
+// A knock: red, yellow, three times, then red, 80 ms each; a key pressed
+// meanwhile is lost.
 TEST(Screens, FreighterKnock) {
   startFreshRun();
   int frames = 0;
@@ -41,8 +42,11 @@ TEST(Screens, FreighterKnock) {
     EXPECT_TRUE(screenMatches(frames++ % 2 == 0 ? "freighter/cafe_knocked" : "freighter/cafe_lit"));
   });
   scripted::addKeys("Up Up Right Enter");
+  scripted::addBusy({KeyEvent::arrow(kKeyDown)});  // pressed during the knock: lost
   scripted::run(runFreighter);
   EXPECT_EQ(frames, 7);
+  scripted::watchSleeps(nullptr);
+  EXPECT_TRUE(screenMatches("freighter/cafe_knocked"));
 }
 
 }  // namespace
