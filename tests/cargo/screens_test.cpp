@@ -82,6 +82,17 @@ const Scene kScenes[] = {
        ship().crew().clear();
        ship().addArtifacts(2);
      }},
+    {"one item only", "Up Up Enter @incinerator_one_item Enter @incinerator_one_item_burning Esc n",
+     runCargoDeck, [] {
+       fresh();
+       ship().crew().clear();
+     }},
+    {"nothing to sort: the visit ends at once", "Up Up Enter @deck_back_from_nothing_to_burn",
+     runCargoDeck, [] {
+       fresh();  // no crew, and no room for an egg
+       ship().crew().clear();
+       ship().setFood(ship().food() + static_cast<std::uint32_t>(ship().cargoRoomLeft() - 19));
+     }},
     {"more than 250 items, the last one burnt",
      "Up Up Enter " TIMES16("PgDn") TIMES4("PgDn") TIMES4("Down") TIMES4("Down") TIMES4("Down")
      "Enter @incinerator_past_250_items Esc n",

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "game/console/box_lines.h"
 #include "game/console/console.h"
 #include "game/console/list_box.h"
 #include "game/console/widgets.h"
@@ -34,6 +35,10 @@ void surfaceScreen() {
   } kWrapped[] = {{"eleven char", 10}, {"twelve chars", 11}, {"ten chars! at the limit", 13},
                   {"aaaa bbbb cc ddddddd eeeeeee", 16}, {"", 21}};
   for (const auto& w : kWrapped) Console::putWrapped(w.text, 2, w.row, 10, 15);
+  // A box of double lines with every kind of joint.
+  drawDoubleLines({{40, 10, 58, 10}, {40, 14, 58, 14}, {40, 18, 58, 18}, {40, 10, 40, 18},
+                   {49, 10, 49, 18}, {58, 10, 58, 18}},
+                  14);
   Console::waitAnyKey();
 }
 
