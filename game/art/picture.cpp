@@ -40,29 +40,3 @@ void drawPicture(const Picture& picture, int column, int row, int colour) {
     }
   }
 }
-
-std::vector<std::string> pictureFaults(const Picture& picture) {
-  std::vector<std::string> faults;
-  for (int y = 0; y < picture.height; ++y) {
-    bool ok = true;
-    std::string codes = cp437::fromUtf8(picture.rows[y], &ok);
-    std::string where = "row " + std::to_string(y) + ": ";
-    if (!ok) faults.push_back(where + "a glyph outside code page 437");
-    if (static_cast<int>(codes.size()) != picture.width) {
-      faults.push_back(where + std::to_string(codes.size()) + " glyphs, not " +
-                       std::to_string(picture.width));
-    }
-    if (picture.colours == nullptr) continue;
-    std::string keys = picture.colours[y];
-    if (static_cast<int>(keys.size()) != picture.width) {
-      faults.push_back(where + std::to_string(keys.size()) + " colour keys, not " +
-                       std::to_string(picture.width));
-    }
-    for (std::size_t x = 0; x < keys.size(); ++x) {
-      if (keys[x] != ' ' && pictureColour(picture, static_cast<int>(x), y, 0) < 0) {
-        faults.push_back(where + "key '" + keys[x] + "' has no colour");
-      }
-    }
-  }
-  return faults;
-}

@@ -14,7 +14,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <vector>
 
 struct PaletteEntry {
   char key;
@@ -53,8 +52,3 @@ int pictureColour(const Picture& picture, int column, int row, int colour);
 // Draws the picture with its top left corner at (column, row). A one-colour
 // picture is drawn in `colour`; a coloured one ignores it.
 void drawPicture(const Picture& picture, int column, int row, int colour = 15);
-
-// What is wrong with a picture's data, one line per fault (rows of the wrong
-// width, glyphs outside the code page, keys without a colour); empty when the
-// picture is sound. The art tests run every picture through it.
-std::vector<std::string> pictureFaults(const Picture& picture);

@@ -1,74 +1,99 @@
-#include "game/console/console.h"
-
+// Numbers in fixed fields at their edges, and the ways keys are read.
 #include <gtest/gtest.h>
 
+#include "game/cargo/cargo_deck.h"
+#include "game/console/console.h"
 #include "game/console/scripted.h"
 #include "game/console/text.h"
+#include "game/console/widgets.h"
+#include "game/shell/mothership.h"
+#include "tests/support/fresh_game.h"
 
 namespace {
 
-class ConsoleTest : public ::testing::Test {
- protected:
-  void SetUp() override { scripted::reset(); }
-};
-
-TEST_F(ConsoleTest, WritesSetColourAndPositionAndRunOnPastColumn79) {
-  Console::putText("", 10, 5, 14);
-  Console::print("abc");
-  EXPECT_EQ(scripted::textAt(10, 5, 3), "abc");
-  EXPECT_EQ(scripted::colourAt(12, 5), 14) << "an empty text still sets the colour";
-  Console::putText("ABCDE", 77, 3, 31);
-  Console::printNumber(42);
-  EXPECT_EQ(scripted::textAt(77, 3, 3) + scripted::textAt(0, 4, 4), "ABCDE42");
-  EXPECT_EQ(scripted::colourAt(1, 4), 31);
-  Console::putText("xyz", 78, 24, 15);  // off the screen: dropped, never a crash
-  Console::putText("abc", -5, 40, 15);
-  EXPECT_EQ(scripted::textAt(78, 24, 2), "xy");
-}
-
-TEST_F(ConsoleTest, PaddedWritesBlankTheirFieldAndNeverCut) {
-  Console::putText("##########", 0, 0, 15);
-  Console::putTextPadded("ab", 0, 0, 12, 6);
-  EXPECT_EQ(scripted::textAt(0, 0, 10), "ab    ####");
-  Console::putTextPadded("longer than four", 0, 1, 15, 4);
-  EXPECT_EQ(scripted::textAt(0, 1, 16), "longer than four");
-}
-
-TEST_F(ConsoleTest, ClearScreenUsesTheCurrentColourAndGoesHome) {
-  Console::putText("junk", 40, 12, 15);
-  Console::setColour(78);
-  Console::clearScreen();
-  EXPECT_EQ(scripted::textAt(40, 12, 4), "    ");
-  EXPECT_EQ(scripted::colourAt(79, 24), 78);
-  Console::print("home");
-  EXPECT_EQ(scripted::textAt(0, 0, 4), "home");
-}
-
-TEST_F(ConsoleTest, WrappingBreaksAtABlankAndBlanksTheRestOfTheLastRow) {
-  std::string oneRow = std::string(30, 'a') + ' ' + std::string(40, 'b');  // 71
-  Console::putText(std::string(75, '#'), 3, 5, 15);
-  Console::putWrapped(oneRow, 3, 4, 70, 14);
-  EXPECT_EQ(scripted::textAt(3, 4, 71), oneRow);
-  EXPECT_EQ(scripted::textAt(3, 5, 3), "###") << "71 characters take one row";
-  Console::putWrapped(oneRow + "c", 3, 4, 70, 14);
-  EXPECT_EQ(scripted::textAt(3, 4, 30), std::string(30, 'a'));
-  EXPECT_EQ(scripted::textAt(3, 5, 71), std::string(40, 'b') + "c" + std::string(30, ' '));
-  EXPECT_EQ(scripted::colourAt(3, 5), 14);
-}
-
-TEST(TextHelpers, NumbersInFields) {
-  EXPECT_EQ(formatNumber(0, 9, true), "        0");
-  EXPECT_EQ(formatNumber(1234567, 9, true), "1,234,567");
-  EXPECT_EQ(formatNumber(-5, 9, true), "         ");
-  EXPECT_EQ(formatNumber(123456, 4, false), "3456") << "digits lost from the left";
-  EXPECT_EQ(leftAlignNumber("  1,234", 7), "1,234  ");
-  EXPECT_EQ(leftAlignNumber("  12x4", 6), "12 4  ");
-  EXPECT_EQ(cutAtBlank(leftAlignedNumber(51, 4)), "51");
-  EXPECT_EQ(cutAtBlank("whole"), "whole");
-  std::string joined;
+TEST(TextHelpers, NumbersInFieldsAtTheirEdges) {
+  const struct {
+    int value, width;
+    bool commas;
+    const char* text;
+  } formats[] = {
+      {0, 9, true, "        0"},   {1234567, 9, true, "1,234,567"}, {-5, 9, true, "         "},
+      {-1, 1, false, " "},          {999, 3, true, "999"},           {1000, 5, true, "1,000"},
+      {1000, 4, true, ",000"},      {1000, 6, true, " 1,000"},       {123456, 4, false, "3456"},
+      {123456, 6, false, "123456"}, {123456, 7, true, "123,456"},    {5, 0, false, ""},
+  };
+  for (const auto& f : formats) EXPECT_EQ(formatNumber(f.value, f.width, f.commas), f.text) << f.value;
+  const struct {
+    const char* in;
+    int width;
+    const char* out;
+  } aligned[] = {
+      {"  1,234", 7, "1,234  "}, {"  12x4", 6, "12 4  "}, {"        0", 9, "0        "},
+      {"   ", 3, "   "},         {"42", 2, "42"},         {"4-2", 5, "4 2  "},
+  };
+  for (const auto& a : aligned) EXPECT_EQ(leftAlignNumber(a.in, a.width), a.out) << a.in;
+  const struct {
+    const char* in;
+    const char* out;
+  } cuts[] = {{"51  ", "51"}, {"whole", "whole"}, {" 7", ""}, {"1,234 5", "1,234"}};
+  for (const auto& c : cuts) EXPECT_EQ(cutAtBlank(c.in), c.out) << c.in;
+  EXPECT_EQ(leftAlignedNumber(-3, 4), "    ");
+  std::string joined = "old";
   joinText(joined, "Bunker ", "I");
   EXPECT_EQ(joined, "Bunker I");
-  EXPECT_EQ(FixedText<5>("abcdefg").view(), "abcd");
+}
+
+// A wait drops the keys typed before it (here during a sleep) and passes
+// over releases.
+TEST(Keys, AWaitFlushesFirstAndEndsOnAKeyDown) {
+  scripted::reset();
+  scripted::addBusy({KeyEvent::typed('x')});
+  scripted::addKeys("Release y Esc");
+  Console::sleep(10);
+  Console::waitAnyKey();
+  EXPECT_EQ(Console::readKey().ascii, 27) << "the wait ended on the y";
+}
+
+// Whatever waits, for a key or for time, first brings the screen up to date.
+TEST(Keys, EveryWaitShowsTheScreenFirst) {
+  scripted::reset();
+  std::vector<bool> shown;
+  auto look = [&] { shown.push_back(!Console::screen().changed); };
+  scripted::watchSleeps([&](int) { look(); });
+  scripted::addCall(look);
+  scripted::addKeys("x");
+  Console::putText("a", 0, 0, 14);
+  Console::readKey();
+  scripted::addCall(look);
+  scripted::addKeys("x");
+  Console::putText("b", 0, 0, 14);
+  Console::keyWaiting();
+  Console::putText("c", 0, 0, 14);
+  Console::sleep(10);
+  EXPECT_EQ(shown, (std::vector<bool>{true, true, true}));
+}
+
+// A burst of keys at once: the menus and the question act on the first and
+// drop the rest, but the cargo deck keeps them.
+TEST(Keys, ABurstActsOnceButTheCargoDeckKeepsKeysTypedAhead) {
+  startFreshRun();
+  DeckMenu menu{{"  One", "  Two", "  Three", "  Four", kReturnLabel}};
+  scripted::addKeys({KeyEvent::arrow(kKeyDown), KeyEvent::arrow(kKeyDown)});
+  scripted::run([&] { showMenu(menu); });
+  EXPECT_EQ(menu.selected, 2);
+  for (const char* answer : {"Enter", "n", "y"}) {  // the Enter after Right and the x are lost
+    scripted::addKeys({KeyEvent::arrow(kKeyRight), KeyEvent::enter()});
+    scripted::addKeys({scripted::keyNamed(answer), KeyEvent::typed('x')});
+    bool yes = false;
+    EXPECT_FALSE(scripted::run([&] { yes = askYesNo("Fire Ion Cannon?", 45, 10, 44); }));
+    EXPECT_EQ(yes, answer[0] != 'n') << answer;
+    EXPECT_EQ(scripted::queued() + scripted::stepsLeft(), 0) << answer;
+  }
+  // Artifacts opened and left, then Down and Enter: the bombs open.
+  scripted::addKeys({KeyEvent::enter(), KeyEvent::escape(), KeyEvent::arrow(kKeyDown),
+                     KeyEvent::enter(), KeyEvent::escape()});
+  scripted::run(runCargoDeck);
+  EXPECT_EQ(theMothership().bombs().count(), 2);
 }
 
 }  // namespace
