@@ -51,7 +51,7 @@ TEST(BunkerMeals, TheLowFoodMarginIsFourAHeadAndAnEmptyStoreCostsAMember) {
       EXPECT_EQ(bunker(n).getFood(), foodAfter) << n << ": " << crew << " crew, " << food;
       EXPECT_EQ(bunker(n).getCrew().getCount(), crewAfter) << n;
     }
-    const std::string log = logLines(), want = news.empty() ? "" : "Bunker " + letter(24) + news;
+    const std::string log = logLines(), want = news.empty() ? "" : "5 Bunker " + letter(24) + news;
     EXPECT_EQ(log.substr(log.empty() ? 0 : log.rfind('\n', log.size() - 2) + 1, want.size()), want);
     EXPECT_EQ(log.empty(), want.empty()) << crew << " crew, " << food;
   }
@@ -66,25 +66,25 @@ TEST(BunkerMeals, EachStarvingBunkerDrawsItsVictimInSectorOrder) {
       last(bunker(24).getCrew().at(1).name());
   seedRandom(1);
   runBunkerMeals();
-  EXPECT_EQ(logLines(), "Bunker " + letter(1) + eaten + first + "!\nBunker " + letter(24) + eaten +
-                            last + "!\n");
+  EXPECT_EQ(logLines(), "5 Bunker " + letter(1) + eaten + first + "!\n5 Bunker " + letter(24) +
+                            eaten + last + "!\n");
 }
 
 // rate = the crew's maintenance x performance / 250 a day, 50 materials a
 // point; a Mako gives 1.6, an Uberfleck 2.0.
 TEST(BunkerConstruction, TheCountdownAndTheMaterialsWarningAtTheirThresholds) {
   const std::string low =
-      "Bunker in sector # is low on materials. Send more so the crew can build faster.\n";
+      "4 Bunker in sector # is low on materials. Send more so the crew can build faster.\n";
   const std::string in = "Bunker in sector # ", days = " days until it's built.";
   for (auto [sector, race, crew, materials, materialsAfter, news] : {
            std::tuple{24, kRaceUberfleck, 50, 5000, 0,
-                      std::string("Bunker sucessfully built in sector #")},
-           {1, kRaceUberfleck, 49, 4900, 0, in + "will be ready for use tomorrow!"},
-           {1, kRaceMako, 25, 2000, 0, in + "has 1" + days},
-           {1, kRaceMako, 20, 1600, 0, low + in + "has 2" + days},
-           {1, kRaceMako, 1, 79, 0, low + in + "has 124" + days},
-           {1, kRaceMako, 1, 80, 0, low + in + "has 61" + days},
-           {1, kRaceMako, 1, 81, 1, in + "has 61" + days},
+                      std::string("4 Bunker sucessfully built in sector #")},
+           {1, kRaceUberfleck, 49, 4900, 0, "3 " + in + "will be ready for use tomorrow!"},
+           {1, kRaceMako, 25, 2000, 0, "2 " + in + "has 1" + days},
+           {1, kRaceMako, 20, 1600, 0, low + "2 " + in + "has 2" + days},
+           {1, kRaceMako, 1, 79, 0, low + "2 " + in + "has 124" + days},
+           {1, kRaceMako, 1, 80, 0, low + "2 " + in + "has 61" + days},
+           {1, kRaceMako, 1, 81, 1, "2 " + in + "has 61" + days},
        }) {
     startFreshRun();
     board(bunker(sector).getCrew(), crew, race);
@@ -108,7 +108,7 @@ TEST(Flights, SaucersMapAndHerdFromWhereTheyStand) {
       " found a herd Large edible lifeforms. They has been added to the local food supply.\n";
   Aircraft& scout = craftAt(24, kSaucerTransport, 1, kMissionScouting, 24);
   runSaucerMissions();
-  EXPECT_EQ(logLines(), "Saucer located in Sector " + letter(24) +
+  EXPECT_EQ(logLines(), "2 Saucer located in Sector " + letter(24) +
                             " has successfully mapped a new sub-sector\n");
   craftAt(0, kSaucerTransport, 1, kMissionAbductingCows, 3);
   craftAt(7, kSaucerTransport, 1, kMissionAbductingCows, 3);
@@ -121,10 +121,10 @@ TEST(Flights, SaucersMapAndHerdFromWhereTheyStand) {
   EXPECT_EQ(scout.getMission(), kMissionInactive);
   EXPECT_EQ(theMothership().food(), food + 15 * 30);
   EXPECT_EQ(bunker(7).getFood(), 15 * 15);
-  EXPECT_EQ(logLines(), "Saucer located inSector " + letter(24) +
+  EXPECT_EQ(logLines(), "4 Saucer located inSector " + letter(24) +
                             " has successfully mapped all sub-sectors in its destination sector. "
-                            "It is now inactive.\nSaucer located in Mothership" +
-                            herd + "Saucer located in Sector " + letter(7) + herd);
+                            "It is now inactive.\n1 Saucer located in Mothership" +
+                            herd + "1 Saucer located in Sector " + letter(7) + herd);
 }
 
 // The catch is rand() % 100 <= (performance / 10) x navigation of the pilot
@@ -143,7 +143,7 @@ TEST(Flights, AnAbductionDrawsTheCatchThenTheSex) {
     if (!caught) continue;
     EXPECT_EQ(crew.at(0).getRace(), kRaceHuman);
     EXPECT_EQ(crew.at(0).getSex(), sex);
-    EXPECT_EQ(logLines(), "Saucer located in Sector " + letter(7) +
+    EXPECT_EQ(logLines(), "3 Saucer located in Sector " + letter(7) +
                               " found a Fleepion. It has been added to the local crew.\n");
   }
 }

@@ -78,7 +78,8 @@ const Scene kScenes[] = {
      "@crew_back_in_location_onboard_wiped Right @crew_aircraft_again_onboard_blank Esc Esc",
      loadCargoAndCrew, fleetAtWork},
     {"jobs given to the ship's craft and a bunker's",
-     "@missions_first_frame Right @missions_aircraft_active_menu_empty Right "
+     "@missions_first_frame Down @missions_bunker_with_no_ships Up Right "
+     "@missions_aircraft_active_menu_empty Right "
      "@missions_empty_menu_entered Enter Down Down @missions_fighter_on_its_job Right "
      "@missions_menu_active_on_the_job Down Esc @missions_menu_left_nothing_lit Down "
      "@missions_bomber_menu Right Down Down Enter @missions_short_of_crew_row_stays_lit Up Up Up "
@@ -92,7 +93,8 @@ const Scene kScenes[] = {
      "@missions_escorting_taken_without_picker Esc Esc",
      assignAircraftMissions, fleetAtWork},
     {"a capsule loaded and launched",
-     "@capsule_first_frame Enter Enter @capsule_two_aboard Right @capsule_onboard_active Right "
+     "@capsule_first_frame Enter Enter @capsule_two_aboard Right @capsule_onboard_active Left "
+     "@capsule_crew_active_again Right Right "
      "@capsule_food_label_lit Left @capsule_left_from_food_onto_its_row Right Enter Up "
      "@capsule_food_loaded_to_the_stock Right Right Right Right Right Left "
      "@capsule_tens_lit_after_the_last_digit Enter Down Enter Right Up Up @capsule_materials_2000 "

@@ -20,7 +20,7 @@ namespace {
 void freshRun() { startFreshRun(), theMothership().aircraft().clear(); }
 
 std::string fighterReport(int killed, int lost) {
-  return "Battle Report: Fighers have destroyed " + std::to_string(killed) +
+  return "5 Battle Report: Fighers have destroyed " + std::to_string(killed) +
          " enemy fighters, and taken " + std::to_string(lost) + " casualties\n";
 }
 
@@ -28,7 +28,8 @@ std::string fighterReport(int killed, int lost) {
 // never lost. A's one Military Base (9) holds its fighters; with none left
 // there the raid falls on sub-sector 0, which has none either.
 TEST(Battle, AFightersKillsAtTheEdges) {
-  const std::string none = "Sector A reports that there are no remaining enemy air defences left!\n";
+  const std::string none =
+      "4 Sector A reports that there are no remaining enemy air defences left!\n";
   const int cases[][5] = {  // fighters at 9, kills; the target, its fighters after, the kills told
       {100, 0, 9, 100, 0}, {100, 1, 9, 99, 1}, {1, 3, 9, -2, 3},
       {0, 1, 0, 0, 0},     {-1, 1, 0, 0, 0},   {0, 0, 0, 0, 0}};
@@ -118,9 +119,10 @@ TEST(Battle, ABombingNightsMaterialsAndARaidOnAnEmptiedSector) {
     EXPECT_EQ(theMothership().materials(), location == 0 ? after : 10000) << materials;
     EXPECT_EQ(thePlanet().sector(5).bunker().materials(), location == 0 ? 10000 : after);
     EXPECT_EQ(logLines(),
-              "Battle Report: Bombers have destroyed 0 enemy soilders, destroyed 0 structures, and "
-              "taken 0 casualties\nSector L reports that there are no remaining enemy ground "
-              "defences left!\nSector L reports that there are no remaining enemy structures left!\n");
+              "5 Battle Report: Bombers have destroyed 0 enemy soilders, destroyed 0 structures, "
+              "and taken 0 casualties\n4 Sector L reports that there are no remaining enemy ground "
+              "defences left!\n4 Sector L reports that there are no remaining enemy structures "
+              "left!\n");
   }
 }
 

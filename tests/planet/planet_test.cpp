@@ -71,8 +71,7 @@ TEST(IonCannon, TheNewsOfEachLandAndWhatTheShotLeaves) {
     if (land >= 0) target.markMapped();
     scripted::addKeys("x");
     scripted::run([] { fireIonCannon(12); });
-    EXPECT_EQ(logLines(), news + "\n");
-    EXPECT_EQ(theMessageLog().at(0)->priority, 4);
+    EXPECT_EQ(logLines(), "4 " + news + "\n");
     EXPECT_EQ(target.population() + target.troops(), 0);
     EXPECT_EQ(target.fighters() + target.structures(), 30 + 27);
     EXPECT_TRUE(target.landType() == kRubble && target.mapped());

@@ -5,6 +5,6 @@
 std::string logLines() {
   std::string lines;
   const MessageLog& log = theMessageLog();
-  for (int i = 0; i < log.count(); ++i) lines += std::string(log.at(i)->text.view()) + "\n";
+  for (int i = 0; i < log.count(); ++i) lines += std::to_string(log.at(i)->priority) + " " + std::string(log.at(i)->text.view()) + "\n";
   return lines;
 }
