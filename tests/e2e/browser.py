@@ -13,7 +13,8 @@ import tempfile
 import time
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-from browser_support import COLUMNS, ROWS, Page, browser, dump, serve, web_folder  # noqa: E402
+from browser_support import (COLUMNS, ROWS, Page, browser, check, serve,  # noqa: E402
+                             web_folder)
 from selenium.webdriver.support.ui import WebDriverWait  # noqa: E402
 from selenium.webdriver.common.action_chains import ActionChains  # noqa: E402
 from selenium.webdriver.common.keys import Keys  # noqa: E402
@@ -21,13 +22,6 @@ from selenium.webdriver.common.keys import Keys  # noqa: E402
 YELLOW = 14
 STATUS_COLOUR = 32  # black on green
 
-
-def check(condition, message, screen=None):
-    if not condition:
-        print("FAIL:", message)
-        if screen is not None:
-            print(dump(screen))
-        sys.exit(1)
 
 
 def cells_of(screen, text, rows):

@@ -11,7 +11,7 @@ import sys
 import time
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-from browser_support import (Page, browser, dump, emulate_phone, serve, tap,  # noqa: E402
+from browser_support import (Page, browser, check, emulate_phone, serve, tap,  # noqa: E402
                              tap_key, web_folder)
 from selenium.common.exceptions import TimeoutException  # noqa: E402
 from selenium.webdriver.support import expected_conditions  # noqa: E402
@@ -38,13 +38,6 @@ return {
 };
 """
 
-
-def check(condition, message, screen=None):
-    if not condition:
-        print("FAIL:", message)
-        if screen is not None:
-            print(dump(screen))
-        sys.exit(1)
 
 
 def overlap(a, b):

@@ -10,6 +10,7 @@ import functools
 import http.server
 import os
 import shutil
+import sys
 import tempfile
 import threading
 import time
@@ -128,6 +129,15 @@ class Page:
 
 def dump(screen):
     return "\n".join(f"{r:2} |{text}|" for r, (text, _) in enumerate(screen))
+
+
+def check(condition, message, screen=None):
+    """Ends the test with a failure, and the screen, when `condition` fails."""
+    if not condition:
+        print("FAIL:", message)
+        if screen is not None:
+            print(dump(screen))
+        sys.exit(1)
 
 
 def web_folder():

@@ -57,15 +57,18 @@ wait_gone() {  # text
 key() { t send-keys -t game "$@"; sleep 0.8; }
 arrow() { t send-keys -t game "$1"; sleep 0.1; key Space; }
 pane() { t display-message -p -t game "$1"; }
-# The title's entry that is chosen: white on red.
-wait_chosen() {  # entry
+# Waits until the text stands in the colours that the pattern of escape
+# sequences gives, and fails saying what was never seen.
+wait_coloured() {  # sequences text what
   local until=$((SECONDS + 10))
   while ((SECONDS < until)); do
-    t capture-pane -e -p -t game | grep -qE $'\e\\[(97m\e\\[41|97;41|41;97)m'"$1" && return 0
+    t capture-pane -e -p -t game | grep -qE "$1$2" && return 0
     sleep 0.1
   done
-  fail "\"$1\" was never chosen on the title"
+  fail "\"$2\" was never $3"
 }
+# The title's entry that is chosen: white on red.
+wait_chosen() { wait_coloured $'\e\\[(97m\e\\[41|97;41|41;97)m' "$1" "chosen on the title"; }
 
 # The game runs under a small shell that stays behind it and tells its exit
 # code. Wine's first start in a fresh prefix takes a while. The terminal is
@@ -79,14 +82,7 @@ start() {
   sleep 1
 }
 # A deck menu's button that is lit: blue on white.
-wait_lit() {  # label
-  local until=$((SECONDS + 10))
-  while ((SECONDS < until)); do
-    t capture-pane -e -p -t game | grep -qE $'\e\\[([0-9]+;)*107(;[0-9]+)*m'"$1" && return 0
-    sleep 0.1
-  done
-  fail "\"$1\" was never lit"
-}
+wait_lit() { wait_coloured $'\e\\[([0-9]+;)*107(;[0-9]+)*m' "$1" "lit"; }
 ended_with() {  # code
   local until=$((SECONDS + 10))
   until screen | grep -q EXITED-; do
