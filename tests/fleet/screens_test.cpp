@@ -105,6 +105,12 @@ const Scene kScenes[] = {
      "@capsule_target_kept_yes_and_no_wiped Down Left @capsule_yes_chosen Enter @capsule_launched "
      "x",
      launchSpaceCapsule, fleetAtWork},
+    {"the capsule's cursor carried from the crew",
+     "Enter Enter Down Right @capsule_onboard_row_carried", launchSpaceCapsule, fleetAtWork},
+    // Back to the crew from the destination: only the two labels are drawn
+    // again, so the destination's highlight and the LAUNCH tab stay lit.
+    {"the capsule's destination left for the crew",
+     "Right Down Down Left @capsule_crew_row_of_destination", launchSpaceCapsule, fleetAtWork},
 };
 
 TEST(Screens, Fleet) { playScenes("fleet", kScenes); }
